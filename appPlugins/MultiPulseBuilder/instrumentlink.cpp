@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
+// SPDX-License-Identifier: MIT
+
+#include "instrumentlink.h"
+
+#include "runsequence.h"
+
+InstrumentLink::InstrumentLink(const QHostAddress& host, quint16 port)
+    : m_host(host)
+    , m_nPort(port)
+{}
+
+bool InstrumentLink::connectToInstrument()
+{
+    m_socket.connectToHost(m_host, m_nPort, QIODevice::ReadWrite);
+    return m_socket.waitForConnected(TimeoutMs);
+}
+
+bool InstrumentLink::send(const QByteArray& command)
+{
+    m_socket.write(command);
+    return m_socket.waitForBytesWritten(TimeoutMs);
+}
+
+bool InstrumentLink::sendAll(const QVector<QByteArray>& commands, QByteArray& failed)
+{
+    for (const QByteArray& command : commands) {
+        if (!send(command)) {
+            failed = command;
+            return false;
+        }
+    }
+    return true;
+}
+
+QByteArray InstrumentLink::waitForReply()
+{
+    m_socket.waitForReadyRead(TimeoutMs);
+    return m_socket.readAll();
+}
+
+QByteArray InstrumentLink::confirm()
+{
+    send(RunSequence::ClosingQuery);
+    return waitForReply();
+}
+
+void InstrumentLink::close()
+{
+    m_socket.close();
+}
+
+QString InstrumentLink::connectWarning() const
+{
+    return QStringLiteral("TcpSocket connect error! port:%1, reason:%2")
+        .arg(m_nPort)
+        .arg(errorString());
+}

@@ -1,0 +1,2 @@
+// SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
+// SPDX-License-Identifier: MIT

@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QtPlugin>
+
+#include <functional>
+
+class QWidget;
+
+/// What a host and a plug-in share. A host built elsewhere depends on the order of the virtual
+/// operations and of the fields below: they are a binary contract, never reordered or extended in
+/// the middle.
+
+/// Called once by the plug-in at the start of show(); an empty one is a programming error.
+using GetIdCallback = std::function<void()>;
+
+/// The host's file-open browser: parent, filters (".json"), the chosen path (output, empty before
+/// the call), start folder, title identifier, a host-specific number. Returns 1 when a file was
+/// chosen.
+using SingleOpenFileViewFunc = int (*)(QWidget*, QStringList, QString&, QString, const char*, int);
+
+/// The host's file-save browser: as the open browser, with the suggested name last.
+using SaveFileViewFunc = int (*)(QWidget*, QStringList, QString&, QString, const char*, int,
+                                 QString);
+
+/// A message box of the host with the given text; for a question 1 means yes.
+using MessageFunc = int (*)(QString text);
+
+/// The host's callbacks, handed over by value. A null entry means "keep what you had".
+struct STRUCT_SHARED_POINTERS
+{
+    SingleOpenFileViewFunc singleOpenFileViewFunc;
+    SaveFileViewFunc saveFileViewFunc;
+    MessageFunc criticalFunc;
+    MessageFunc warningFunc;
+    MessageFunc questionFunc;
+    MessageFunc informationFunc;
+};
+
+/// A plug-in as its host sees it. All operations are called on the host's GUI thread.
+class Q_DECL_EXPORT CAppInterface
+{
+public:
+    virtual ~CAppInterface() {}
+
+    /// First call of a host: hands its callbacks over.
+    virtual void initCallbacks(STRUCT_SHARED_POINTERS sharedPointers) = 0;
+
+    /// Prepares the window (pixels of the host's screen); the host runs it with exec(). The default
+    /// bodies do nothing. Returns 0.
+    virtual int show(int x, int y, QWidget* parent, int flag, GetIdCallback idcallback)
+    {
+        Q_UNUSED(x)
+        Q_UNUSED(y)
+        Q_UNUSED(parent)
+        Q_UNUSED(flag)
+        Q_UNUSED(idcallback)
+        return 0;
+    }
+
+    virtual int show(int x, int y, QString filePath, QWidget* parent, GetIdCallback idcallback)
+    {
+        Q_UNUSED(x)
+        Q_UNUSED(y)
+        Q_UNUSED(filePath)
+        Q_UNUSED(parent)
+        Q_UNUSED(idcallback)
+        return 0;
+    }
+
+    virtual int show(int x, int y, int width, int height, QWidget* parent, GetIdCallback idcallback)
+    {
+        Q_UNUSED(x)
+        Q_UNUSED(y)
+        Q_UNUSED(width)
+        Q_UNUSED(height)
+        Q_UNUSED(parent)
+        Q_UNUSED(idcallback)
+        return 0;
+    }
+
+    /// Runs the window modally; returns the dialog's result code.
+    virtual int exec() { return 0; }
+
+    /// Closes the window. Returns 0.
+    virtual int close() { return 0; }
+
+    /// The plug-in's window, null when there is none.
+    virtual QWidget* getWindow() = 0;
+
+    /// The plug-in that was shown last. Defined by the host, which exports it to its plug-ins.
+    static CAppInterface* current;
+
+    static void setCurrent(CAppInterface* appInterface) { current = appInterface; }
+    static CAppInterface* getCurrent() { return current; }
+};
+
+#define CAppInterface_iid "com.kvx.instrument.CAppInterface"
+
+Q_DECLARE_INTERFACE(CAppInterface, CAppInterface_iid)
