@@ -8,6 +8,7 @@
 #include "saturate.h"
 
 #include <algorithm>
+#include <memory>
 #include <string>
 
 namespace {
@@ -99,6 +100,7 @@ bool writeTrainWaveform(const char* filePath, const PulseTrain& train, double* b
 
 bool writeTrainWaveform(const char* filePath, const PulseTrain& train)
 {
-    std::vector<double> buffer(PointBudget);
-    return writeTrainWaveform(filePath, train, buffer.data());
+    // Left uninitialised: synthesise() zeroes what it fills.
+    const std::unique_ptr<double[]> buffer(new double[PointBudget]);
+    return writeTrainWaveform(filePath, train, buffer.get());
 }
