@@ -2,3 +2,15 @@
 // SPDX-License-Identifier: MIT
 
 #pragma once
+
+/// The identifiers of the editor's choice lists and of its table header, filled from the identifier
+/// variables when the library is loaded. A choice's index is the value that is stored for it; the
+/// choice components take the tables as they stand, hence writable pointers.
+namespace LabelTables {
+
+extern const char* triggerSource[3]; ///< manual, external, timer
+extern const char* triggerSlope[2];  ///< positive, negative
+extern const char* load[2];          ///< 50 ohms, high impedance
+extern const char* tableHeader[2];   ///< widths, gaps
+
+} // namespace LabelTables
