@@ -74,6 +74,8 @@ public:
     void debugSegment() const;
 
 private:
+    void allocate(std::list<SegmentObject>::iterator fit, Uint32 len, SEGID id);
+
     std::list<SegmentObject> freeSegments; ///< ascending start address
     std::list<SegmentObject> usedSegments; ///< exact fits are put in front, others at the end
     std::queue<int> freeIDs;
