@@ -24,7 +24,8 @@ bool loadSetupFile(const char* fileName, QJsonObject& jsonObj)
 bool saveSetupFile(const char* fileName, const QJsonObject& jsonObj)
 {
     QFile file(QString::fromUtf8(fileName));
-    if (!file.open(QIODevice::WriteOnly)) {
+    // Unbuffered, so that the write itself finds the disk full.
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         qWarning("Couldn't open save file.");
         return false;
     }
