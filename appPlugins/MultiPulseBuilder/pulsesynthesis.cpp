@@ -217,12 +217,14 @@ bool timeUnitConvertToPointsUnit(double dbTotalPeriod, const std::vector<double>
     const double cycle = std::accumulate(times.begin(), times.end(), 0.0);
     const qint32 tmp = toCount(std::floor(cycle / dbTotalPeriod * 128.0 * 1024.0));
 
-    qint64 total = 0;
+    qint32 total = 0;
     for (double& entry : times) {
-        entry = toCount(std::floor(entry / cycle * tmp));
-        total = toCount(total + static_cast<qint64>(entry));
+        // A group of zero duration has no shares to divide.
+        const double points = std::floor(entry / cycle * tmp);
+        entry = std::isnan(points) ? 0.0 : points;
+        total = toCount(total + entry);
     }
-    nTotalPoints = static_cast<long>(total);
+    nTotalPoints = total;
 
     qInfo() << "timeUnitConvertToPointsUnit"
             << "tmp" << tmp << "nTotalPoints" << nTotalPoints << "cycle" << cycle << "dbTotalPeriod"

@@ -63,6 +63,8 @@ QString parseWaveform(const QByteArray& bytes, WaveformFile& file)
 
     file.header = header.info;
     file.samples.resize(header.info.points);
+    if (file.samples.empty())
+        return QString();
     qFromLittleEndian<qint16>(bytes.constData() + sizeof header, header.info.points,
                               file.samples.data());
     return QString();
