@@ -1,0 +1,194 @@
+// SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
+// SPDX-License-Identifier: MIT
+
+#include "scpiquery.h"
+
+#include "instrumentlink.h"
+#include "scriptedserver.h"
+
+#include <QtTest>
+
+Q_DECLARE_METATYPE(BlockState)
+
+class TestScpiQuery : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void block_data();
+    void block();
+    void everyPieceOfABlock();
+    void line_data();
+    void line();
+    void lineWithoutEnd();
+    void blockInPieces();
+    void noBlock();
+    void blockCutShort();
+    void number_data();
+    void number();
+    void noReply();
+    void shown();
+};
+
+void TestScpiQuery::block_data()
+{
+    QTest::addColumn<QByteArray>("bytes");
+    QTest::addColumn<BlockState>("state");
+    QTest::addColumn<QByteArray>("data");
+    const auto row = [](const char* name, const QByteArray& bytes, BlockState state,
+                        const QByteArray& data = QByteArray("untouched")) {
+        QTest::newRow(name) << bytes << state << data;
+    };
+    row("nothing", "", BlockState::Incomplete);
+    row("begin", "#", BlockState::Incomplete);
+    row("length missing", "#2", BlockState::Incomplete);
+    row("length incomplete", "#21", BlockState::Incomplete);
+    row("data missing", "#210", BlockState::Incomplete);
+    row("data incomplete", "#13ab", BlockState::Incomplete);
+    row("complete", "#13abc", BlockState::Complete, "abc");
+    row("line feed behind", "#13abc\n", BlockState::Complete, "abc");
+    row("line feed inside", "#13a\nc\n", BlockState::Complete, "a\nc");
+    row("no data", "#10\n", BlockState::Complete, "");
+    row("leading zeros", "#9000000001x", BlockState::Complete, "x");
+    row("no block", "1.5", BlockState::Malformed);
+    row("indefinite", "#0abc", BlockState::Malformed);
+    row("digits no digit", "#x", BlockState::Malformed);
+    row("length no number", "#2a", BlockState::Malformed);
+    row("length negative", "#2-1", BlockState::Malformed);
+    row("longer than any trace", "#9999999999", BlockState::Malformed);
+}
+
+void TestScpiQuery::block()
+{
+    QFETCH(QByteArray, bytes);
+    QFETCH(BlockState, state);
+    QFETCH(QByteArray, data);
+    QByteArray read("untouched");
+    QCOMPARE(parseBlock(bytes, read), state);
+    QCOMPARE(read, data);
+}
+
+void TestScpiQuery::everyPieceOfABlock()
+{
+    const QByteArray whole = "#212hello\nworld\n";
+    QByteArray data;
+    for (int length = 0; length < 4 + 12; ++length)
+        QCOMPARE(parseBlock(whole.left(length), data), BlockState::Incomplete);
+    QCOMPARE(parseBlock(whole, data), BlockState::Complete);
+}
+
+void TestScpiQuery::line_data()
+{
+    QTest::addColumn<QVector<QByteArray>>("pieces");
+    QTest::newRow("whole") << QVector<QByteArray>{"0,\"No error\"\n"};
+    QTest::newRow("CR") << QVector<QByteArray>{"0,\"No error\"\r\n"};
+    QTest::newRow("pieces") << QVector<QByteArray>{"0,", "\"No er", "ror\"", "\n"};
+    QTest::newRow("more behind") << QVector<QByteArray>{"0,\"No error\"\nmore\n"};
+}
+
+void TestScpiQuery::line()
+{
+    QFETCH(QVector<QByteArray>, pieces);
+    ScriptedServer server({{pieces, false}});
+    for (int i = 1; i < pieces.size(); ++i)
+        server.sendNextPiece();
+    InstrumentLink link;
+    QVERIFY(link.connectToInstrument());
+    QByteArray reply;
+    QCOMPARE(askLine(link, "SYSTem:ERRor?\n", reply), QString());
+    QCOMPARE(reply, QByteArray("0,\"No error\""));
+    QCOMPARE(server.received(), QByteArray("SYSTem:ERRor?\n"));
+}
+
+void TestScpiQuery::lineWithoutEnd()
+{
+    ScriptedServer server({{{QByteArray(MaxLineBytes + 1, 'x')}, false}});
+    InstrumentLink link;
+    QVERIFY(link.connectToInstrument());
+    QByteArray reply("untouched");
+    QCOMPARE(askLine(link, "*IDN?\n", reply), QStringLiteral("*IDN?: the reply has no end"));
+    QCOMPARE(reply, QByteArray("untouched"));
+}
+
+void TestScpiQuery::blockInPieces()
+{
+    ScriptedServer server({{{"#", "15he", "llo", "\n"}, false}});
+    for (int i = 0; i < 3; ++i)
+        server.sendNextPiece();
+    InstrumentLink link;
+    QVERIFY(link.connectToInstrument());
+    QByteArray data;
+    QCOMPARE(askBlock(link, "TRACe1:DATA?\n", data), QString());
+    QCOMPARE(data, QByteArray("hello"));
+}
+
+void TestScpiQuery::noBlock()
+{
+    ScriptedServer server({{{"rub\x1b[2J\n"}, false}});
+    InstrumentLink link;
+    QVERIFY(link.connectToInstrument());
+    QByteArray data;
+    QCOMPARE(
+        askBlock(link, "TRACe1:DATA?\n", data),
+        QStringLiteral("TRACe1:DATA?: the reply is no block of data: \"rub\\u001b[2J\\u000a\""));
+}
+
+void TestScpiQuery::blockCutShort()
+{
+    ScriptedServer server({{{"#15he"}, true}});
+    InstrumentLink link;
+    QVERIFY(link.connectToInstrument());
+    QByteArray data("untouched");
+    QCOMPARE(askBlock(link, "TRACe1:DATA?\n", data),
+             QStringLiteral("TRACe1:DATA?: no reply: The remote host closed the connection"));
+    QCOMPARE(data, QByteArray("untouched"));
+}
+
+void TestScpiQuery::number_data()
+{
+    QTest::addColumn<QByteArray>("reply");
+    QTest::addColumn<bool>("good");
+    QTest::addColumn<double>("expected");
+    QTest::newRow("whole") << QByteArray("131070\n") << true << 131070.0;
+    QTest::newRow("real") << QByteArray("2.5E-10\n") << true << 2.5e-10;
+    QTest::newRow("negative") << QByteArray("-1\n") << true << -1.0;
+    QTest::newRow("word") << QByteArray("ON\n") << false << 0.0;
+    QTest::newRow("empty") << QByteArray("\n") << false << 0.0;
+    QTest::newRow("infinity") << QByteArray("9.9E+37\n") << false << 0.0;
+    QTest::newRow("not a number") << QByteArray("9.91E+37\n") << false << 0.0;
+    QTest::newRow("nan") << QByteArray("nan\n") << false << 0.0;
+}
+
+void TestScpiQuery::number()
+{
+    QFETCH(QByteArray, reply);
+    QFETCH(bool, good);
+    QFETCH(double, expected);
+    ScriptedServer server({{{reply}, false}});
+    InstrumentLink link;
+    QVERIFY(link.connectToInstrument());
+    double number = 0;
+    const QString reason = askNumber(link, "TRACe1:TIMe:STEP?\n", number);
+    QCOMPARE(reason.isEmpty(), good);
+    QCOMPARE(reason.contains(QLatin1String("is no number")), !good);
+    QCOMPARE(number, expected);
+}
+
+void TestScpiQuery::noReply()
+{
+    ScriptedServer server({{{}, true}});
+    InstrumentLink link;
+    QVERIFY(link.connectToInstrument());
+    double number = 0;
+    QCOMPARE(askNumber(link, "TRACe1:POINts?\n", number),
+             QStringLiteral("TRACe1:POINts?: no reply: The remote host closed the connection"));
+}
+
+void TestScpiQuery::shown()
+{
+    QCOMPARE(shownCommand("OUTP1 OFF \n"), QStringLiteral("OUTP1 OFF"));
+    QCOMPARE(shownCommand("a\tb\n"), QStringLiteral("a\\u0009b"));
+}
+
+QTEST_GUILESS_MAIN(TestScpiQuery)
+#include "test_scpiquery.moc"
