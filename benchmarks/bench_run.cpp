@@ -1,8 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
 // SPDX-License-Identifier: MIT
 
-#include "parametertable.h"
-#include "setupdocument.h"
+#include "benchsetup.h"
 #include "trainsamples.h"
 #include "waveformsample.h"
 
@@ -18,21 +17,6 @@
 // the kernel in one write. The report gives the ratio of the two.
 
 namespace {
-
-QJsonObject setup(int pulses)
-{
-    SetupValues values;
-    values.pulseCount = pulses;
-    values.highLevel = 2.5;
-    values.lowLevel = -0.5;
-    values.triggerDelay = TriggerDelayRange.defaultValue;
-    values.triggerTimer = TriggerTimerRange.defaultValue;
-    for (int i = 0; i < pulses; ++i) {
-        values.rows.append({QStringLiteral("%1.%2u").arg(1 + i % 7).arg(100 + i),
-                            QStringLiteral("%1.250u").arg(3 + i % 5)});
-    }
-    return {{SetupKey::MultiplePulses, multiplePulsesFromValues(values)}};
-}
 
 QByteArray filePath()
 {
@@ -61,7 +45,7 @@ BENCHMARK(onePass)->Unit(benchmark::kMicrosecond);
 
 void documentToFile(benchmark::State& state)
 {
-    const QJsonObject document = setup(static_cast<int>(state.range(0)));
+    const QJsonObject document = benchmarkSetup(static_cast<int>(state.range(0)));
     const QByteArray path = filePath();
     for (auto _ : state) {
         if (!writeTrainWaveform(path.constData(), PulseTrain::fromDocument(document)))
@@ -72,7 +56,7 @@ BENCHMARK(documentToFile)->Arg(2)->Arg(10)->Arg(30)->Unit(benchmark::kMicrosecon
 
 void documentToSamples(benchmark::State& state)
 {
-    const QJsonObject document = setup(static_cast<int>(state.range(0)));
+    const QJsonObject document = benchmarkSetup(static_cast<int>(state.range(0)));
     std::vector<double> buffer(PointBudget);
     for (auto _ : state)
         benchmark::DoNotOptimize(synthesise(PulseTrain::fromDocument(document), buffer.data()));
