@@ -47,8 +47,8 @@ add_compile_definitions(
     QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
     QT_STRICT_ITERATORS)
 
-# Warnings of the library's debug output must stay visible in release builds: they are part of the
-# plug-in's contract with whoever reads the host's log.
+# A Run is a dozen passes over 131072 numbers: they are worth the vector instructions that -O2 leaves
+# out.
 string(REPLACE "-O2" "-O3" CMAKE_CXX_FLAGS_RELWITHDEBINFO "${CMAKE_CXX_FLAGS_RELWITHDEBINFO}")
 
 if(MPB_SANITIZE)

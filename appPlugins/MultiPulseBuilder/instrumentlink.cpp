@@ -3,8 +3,6 @@
 
 #include "instrumentlink.h"
 
-#include "runsequence.h"
-
 InstrumentLink::InstrumentLink(const QHostAddress& host, quint16 port)
     : m_host(host)
     , m_nPort(port)
@@ -39,9 +37,9 @@ QByteArray InstrumentLink::waitForReply()
     return m_socket.readAll();
 }
 
-QByteArray InstrumentLink::confirm()
+QByteArray InstrumentLink::confirm(const QByteArray& query)
 {
-    send(RunSequence::ClosingQuery);
+    send(query);
     return waitForReply();
 }
 

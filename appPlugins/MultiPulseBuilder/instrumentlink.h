@@ -28,16 +28,18 @@ public:
     bool send(const QByteArray& command);
 
     /// Sends the commands in order up to the first that fails, which is left in @p failed
-    /// (unchanged when all were sent). Returns whether all were sent.
+    /// (unchanged when all were sent). Returns whether all were sent. A sequence that ends with
+    /// confirm() ends with it after a failure too: this call does not do that.
     bool sendAll(const QVector<QByteArray>& commands, QByteArray& failed);
 
     /// Waits for a reply and returns what has come, in one read; empty when nothing came.
     QByteArray waitForReply();
 
-    /// Asks the closing query and waits for its reply, which is returned for information only: it
-    /// tells that the instrument has worked through everything sent before.
-    QByteArray confirm();
+    /// Sends @p query and waits for its reply, which is returned for information only: it tells
+    /// that the instrument has worked through everything sent before.
+    QByteArray confirm(const QByteArray& query);
 
+    /// Ends the connection; nothing where there is none. Forgets errorString().
     void close();
 
     QString errorString() const { return m_socket.errorString(); }

@@ -8,9 +8,9 @@
 /// choice components take the tables as they stand, hence writable pointers.
 namespace LabelTables {
 
-extern const char* triggerSource[3]; ///< manual, external, timer
-extern const char* triggerSlope[2];  ///< positive, negative
-extern const char* load[2];          ///< 50 ohms, high impedance
-extern const char* tableHeader[2];   ///< widths, gaps
+extern const char* m_strTriggerSourceLabels[3]; ///< manual, external, timer
+extern const char* m_strTriggerSlopeLabels[2];  ///< positive, negative
+extern const char* m_strLoadLabels[2];          ///< 50 ohms, high impedance
+extern const char* m_strTableHeaderLabels[2];   ///< widths, gaps
 
 } // namespace LabelTables

@@ -3,8 +3,8 @@
 
 #pragma once
 
-/// Default, limits and resolution of every parameter of a pulse train, in base units (seconds,
-/// volts). The window, the setup document and the shell tool all read them here.
+/// Default, limits and resolution of every parameter of a pulse train, in base units (pulses,
+/// seconds). The window, the setup document and the shell tool all read them here.
 struct ParameterRange
 {
     double defaultValue;

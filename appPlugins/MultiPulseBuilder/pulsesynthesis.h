@@ -5,6 +5,7 @@
 
 #include <QtGlobal>
 
+#include <cstddef>
 #include <vector>
 
 /// The generators that turn pulses into sample values in volts. Points and indices are 32-bit
@@ -25,7 +26,7 @@ struct INFO_WFM
 struct INFO_PULSE
 {
     double dblCycle;  ///< cycles in the stretch
-    double dblPhase;  ///< start phase in degrees
+    double dblPhase;  ///< start phase in degrees; a negative one counts from the cycle's end
     double l50Width;  ///< points at 50 % of the amplitude
     double lRiseTime; ///< points from 10 % to 90 %
     double lFallTime; ///< points from 90 % to 10 %
@@ -34,6 +35,13 @@ struct INFO_PULSE
     qint32 lRiseType; ///< 0 linear, anything else raised sine
     qint32 lFallType; ///< as lRiseType
 };
+
+// Descriptions are handed on as they stand in memory.
+static_assert(offsetof(INFO_WFM, dblAmp) == 8 && offsetof(INFO_WFM, lStart) == 24, "field order");
+static_assert(sizeof(INFO_WFM) == 40, "no field added or widened");
+static_assert(offsetof(INFO_PULSE, l50Width) == 16 && offsetof(INFO_PULSE, lDelay) == 40,
+              "field order");
+static_assert(sizeof(INFO_PULSE) == 56, "no field added or widened");
 
 /// Indices of a buffer that may be written: from @c first up to, not including, @c end.
 struct SampleWindow

@@ -4,6 +4,7 @@
 #include "setupdocument.h"
 
 #include "parametertable.h"
+#include "saturate.h"
 
 #include <QJsonArray>
 
@@ -48,8 +49,7 @@ QJsonObject multiplePulsesFromValues(const SetupValues& values)
         {SetupKey::PulseLeading, 0},
         {SetupKey::PulseTrailing, 0},
         {SetupKey::Voltage, voltageObject(amplitude, offset)},
-        {SetupKey::PulseNumbers,
-         parameterObject(PulseCountRange, static_cast<int>(values.pulseCount))},
+        {SetupKey::PulseNumbers, parameterObject(PulseCountRange, toCount(values.pulseCount))},
         {SetupKey::PulseWidth, columnObject(PulseWidthRange)},
         {SetupKey::PulseGap, columnObject(PulseGapRange)},
         {SetupKey::TriggerSource, values.triggerSource},

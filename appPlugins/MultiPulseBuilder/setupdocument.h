@@ -46,7 +46,7 @@ struct SetupRow
 /// What the editor shows, as it is stored: the input of a setup document.
 struct SetupValues
 {
-    double pulseCount = 0;   ///< truncated to an integer when stored
+    double pulseCount = 0;   ///< truncated to an integer when stored, saturating at 32 bits
     double highLevel = 0;    ///< volts
     double lowLevel = 0;     ///< volts
     double triggerDelay = 0; ///< seconds

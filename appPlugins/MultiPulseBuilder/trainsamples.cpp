@@ -47,6 +47,7 @@ INFO_PULSE pulseInfo(const PulseTrain& train, const PulseStretch& stretch)
     return info;
 }
 
+// Every stretch is added, the first one to zeros: negative gaps make stretches overlap.
 void addStretch(const PulseTrain& train, const PulseStretch& stretch, double* buffer)
 {
     INFO_WFM info = {};

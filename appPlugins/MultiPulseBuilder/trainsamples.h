@@ -7,8 +7,6 @@
 
 #include "apptypes.h"
 
-#include <QString>
-
 #include <vector>
 
 /// Points that one period of a train is quantised to, and the size of every sample buffer here.

@@ -62,8 +62,9 @@ APPPLUGINS_EXPORT bool FileIsExist(const char* path);
 APPPLUGINS_EXPORT void ScalarMath(int p_nOp, double* p_aWfmData, double p_ndblParam,
                                   Uint32 p_nLength);
 
-/// Maps the data to -1 ... +1 in place and reports the bounds it found. Data wholly above 1000 or
-/// below -1000 keeps the initial bounds (1000 and -1000). A constant waveform becomes zeros.
+/// Maps the data to -1 ... +1 in place and reports the bounds it found. The search begins at a
+/// minimum of 1000 and a maximum of -1000: data wholly above 1000 keeps that minimum, data wholly
+/// below -1000 that maximum. A constant waveform between them becomes zeros.
 APPPLUGINS_EXPORT void Normalize(double* p_dbVal, Uint32 l_nLength, double& l_dbMinVal,
                                  double& l_dbMaxVal);
 

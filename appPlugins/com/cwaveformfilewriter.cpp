@@ -47,7 +47,7 @@ bool writeSample(quint16 word, std::FILE* stream)
     return putc_unlocked(word & 0xFF, stream) != EOF && putc_unlocked(word >> 8, stream) != EOF;
 }
 
-bool writeBlock(const double* normalised, Uint32 count, std::FILE* stream)
+bool writeBlock(const double* normalised, quint64 count, std::FILE* stream)
 {
     quint16 words[BlockSize];
     std::transform(normalised, normalised + count, words, sampleWord);
@@ -76,7 +76,8 @@ bool CWaveformFileWriter::write(char* filePath, Uint32 points, double amp, doubl
     if (!dataWrite(points, data))
         return false;
 
-    // What is still in the stream's buffer may find the disk full.
+    // What is still in the stream's buffer may find the disk full: a file that is not whole must
+    // not be played.
     const bool flushed = std::fflush(fp) == 0;
     close();
     return flushed;
@@ -113,8 +114,9 @@ bool CWaveformFileWriter::writeHeaderBlock()
 bool CWaveformFileWriter::dataWrite(Uint32 points, double* data)
 {
     const NormalizedSamples normalized(data, points);
-    for (Uint32 i = 0; i < points; i += BlockSize) {
-        if (!writeBlock(data + i, std::min(BlockSize, points - i), fp)) {
+    for (quint64 i = 0; i < points; i += BlockSize) {
+        const quint64 count = std::min(quint64(BlockSize), points - i);
+        if (!writeBlock(data + i, count, fp)) {
             close();
             return false;
         }

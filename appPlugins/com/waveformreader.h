@@ -27,8 +27,7 @@ const Uint32 MaxWaveformPoints = 1048576;
 
 /// Takes a waveform file apart. On success returns an empty text and fills @p file; otherwise
 /// returns what is wrong (magic, version, size, point count or levels that are not finite numbers)
-/// and leaves
-/// @p file as it was.
+/// and leaves @p file as it was.
 APPPLUGINS_EXPORT QString parseWaveform(const QByteArray& bytes, WaveformFile& file);
 
 /// Reads the waveform file at @p path; no more is read than the largest file may hold. Returns as

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <QtPlugin>
 
+#include <cstddef>
 #include <functional>
 
 class QWidget;
@@ -41,6 +42,11 @@ struct STRUCT_SHARED_POINTERS
     MessageFunc informationFunc;
 };
 
+static_assert(sizeof(STRUCT_SHARED_POINTERS) == 6 * sizeof(void*), "six callbacks and no gap");
+static_assert(offsetof(STRUCT_SHARED_POINTERS, criticalFunc) == 2 * sizeof(void*) &&
+                  offsetof(STRUCT_SHARED_POINTERS, informationFunc) == 5 * sizeof(void*),
+              "field order");
+
 /// A plug-in as its host sees it. All operations are called on the host's GUI thread.
 class Q_DECL_EXPORT CAppInterface
 {
@@ -50,8 +56,8 @@ public:
     /// First call of a host: hands its callbacks over.
     virtual void initCallbacks(STRUCT_SHARED_POINTERS sharedPointers) = 0;
 
-    /// Prepares the window (pixels of the host's screen); the host runs it with exec(). The default
-    /// bodies do nothing. Returns 0.
+    /// Prepares the window at a place of the host's screen (pixels); the host runs it with exec().
+    /// What @p flag means is between host and plug-in. The default does nothing. Returns 0.
     virtual int show(int x, int y, QWidget* parent, int flag, GetIdCallback idcallback)
     {
         Q_UNUSED(x)
@@ -62,6 +68,7 @@ public:
         return 0;
     }
 
+    /// The same with a file to open. The default does nothing. Returns 0.
     virtual int show(int x, int y, QString filePath, QWidget* parent, GetIdCallback idcallback)
     {
         Q_UNUSED(x)
@@ -72,6 +79,8 @@ public:
         return 0;
     }
 
+    /// The same with a size in pixels. A plug-in invokes @p idcallback first; an empty one raises
+    /// std::bad_function_call. The default does nothing. Returns 0.
     virtual int show(int x, int y, int width, int height, QWidget* parent, GetIdCallback idcallback)
     {
         Q_UNUSED(x)
@@ -98,6 +107,8 @@ public:
     static void setCurrent(CAppInterface* appInterface) { current = appInterface; }
     static CAppInterface* getCurrent() { return current; }
 };
+
+static_assert(sizeof(CAppInterface) == sizeof(void*), "a table of operations and nothing else");
 
 #define CAppInterface_iid "com.kvx.instrument.CAppInterface"
 

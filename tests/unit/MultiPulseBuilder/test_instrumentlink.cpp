@@ -117,7 +117,7 @@ void TestInstrumentLink::confirmAsksTheClosingQuery()
     ScriptedServer server({{{"Maker,KVX7010C\n"}, false}});
     InstrumentLink link;
     QVERIFY(link.connectToInstrument());
-    QCOMPARE(link.confirm(), QByteArray("Maker,KVX7010C\n"));
+    QCOMPARE(link.confirm(RunSequence::ClosingQuery), QByteArray("Maker,KVX7010C\n"));
     QCOMPARE(server.received(), QByteArray("*IDN? \n"));
 }
 

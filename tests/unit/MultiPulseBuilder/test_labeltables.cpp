@@ -32,14 +32,14 @@ void TestLabelTables::namesTheChoices_data()
     QTest::addColumn<QList<QByteArray>>("expected");
 
     QTest::newRow("trigger source")
-        << texts(LabelTables::triggerSource)
+        << texts(LabelTables::m_strTriggerSourceLabels)
         << QList<QByteArray>{"STR_ID_MANUAL", "DBID_TRIGGER_SOURCE_EXTERNAL", "SEQID_TIMER"};
     QTest::newRow("trigger slope")
-        << texts(LabelTables::triggerSlope)
+        << texts(LabelTables::m_strTriggerSlopeLabels)
         << QList<QByteArray>{"DBID_TRIGGER_SLOPE_POSITIVE", "DBID_TRIGGER_SLOPE_NEGATIVE"};
-    QTest::newRow("load") << texts(LabelTables::load)
+    QTest::newRow("load") << texts(LabelTables::m_strLoadLabels)
                           << QList<QByteArray>{"STR_ID_50", "STR_ID_HI_Z"};
-    QTest::newRow("table header") << texts(LabelTables::tableHeader)
+    QTest::newRow("table header") << texts(LabelTables::m_strTableHeaderLabels)
                                   << QList<QByteArray>{"STR_ID_WIDTHS", "STR_ID_GAPS"};
 }
 
