@@ -127,6 +127,11 @@ void ParameterTextWithOrderOfMagnitude::setValue(long long value)
     endTyping();
     if (!m_pParameterText->hasFocus())
         m_pParameterText->m_dbSetValueFlag = true;
+    takeValue(value);
+}
+
+void ParameterTextWithOrderOfMagnitude::takeValue(long long value)
+{
     m_valueLL = value;
     Q_EMIT valueChanged();
 }
@@ -217,7 +222,10 @@ void ParameterTextWithOrderOfMagnitude::turnKnob(int direction)
         return;
 
     const long long step = tenToThe(decimals() + m_pParameterText->cursorPower());
-    setValue(addSteps(m_valueLL, direction * step));
+    const long long value = addSteps(m_valueLL, direction * step);
+    // A detent is the user's, also when the focus has gone before it came out of the event queue.
+    if (value != m_valueLL)
+        takeValue(value);
 
     QScrollBar* const bar = m_pParameterText->horizontalScrollBar();
     if (m_pParameterText->textCursor().position() <= 4)

@@ -50,7 +50,7 @@ public:
     void removePreviousCharacterUnderscore();
 
     /// The text as a number; 1e12 for text that is none, -1e12 where it begins with "-".
-    double convertToDouble(QString text) const;
+    double convertToDouble(const QString& text) const;
 
     /// Adds or takes away the sign of what is being typed.
     void signClicked();
@@ -190,6 +190,7 @@ private:
     void showInUnit(int index);
     void takeTypedText();
     void turnKnob(int direction);
+    void takeValue(long long value);
 
     bool filterKeyPress(QKeyEvent* event);
     bool filterKeyRelease(QKeyEvent* event);

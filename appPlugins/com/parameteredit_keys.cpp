@@ -121,11 +121,11 @@ bool ParameterTextWithOrderOfMagnitude::filterKeyPress(QKeyEvent* event)
 }
 
 // A key that follows faster than the event queue turns must find the value that the keys before it
-// made.
+// made. The selector goes first: it may answer with a Cancel.
 void ParameterTextWithOrderOfMagnitude::takeHandedOverKeys()
 {
-    QCoreApplication::sendPostedEvents(this, QEvent::KeyPress);
     QCoreApplication::sendPostedEvents(m_pUnitLabel, QEvent::KeyPress);
+    QCoreApplication::sendPostedEvents(this, QEvent::KeyPress);
 }
 
 bool ParameterTextWithOrderOfMagnitude::filterArrow(QKeyEvent* event)

@@ -198,7 +198,7 @@ void ParameterTextEdit::cursorPositionChangedSlots()
     caculatePower();
 }
 
-double ParameterTextEdit::convertToDouble(QString text) const
+double ParameterTextEdit::convertToDouble(const QString& text) const
 {
     bool ok = false;
     const double value = text.toDouble(&ok);
@@ -288,9 +288,7 @@ void ParameterTextEdit::rightArrowClicked(QKeyEvent* e, bool specialDealwith)
     QString text = toPlainText();
     const int firstDigit = text.startsWith(QLatin1Char('-')) ? 1 : 0;
     const QString digits = text.mid(firstDigit);
-    if (digits == QLatin1String("0.000"))
-        text.remove(firstDigit, 2);
-    else if (digits.startsWith(QLatin1String("0.000")))
+    if (digits.startsWith(QLatin1String("0.000")) && digits.size() > 5)
         text.remove(firstDigit + 2, 3);
     else if (digits.startsWith(QLatin1String("0.")))
         text.remove(firstDigit, 2);

@@ -50,6 +50,12 @@ StringCombComponent::StringCombComponent(QWidget* parent, const char* titleStrId
     addInput(m_pParamLineEdit, 172, 156, 32);
 }
 
+// A line that goes with the focus finishes editing, for a component that is gone by then.
+StringCombComponent::~StringCombComponent()
+{
+    m_pParamLineEdit->disconnect(this);
+}
+
 bool StringCombComponent::set(QString text)
 {
     if (!isAvailable() || !m_rx.exactMatch(text))

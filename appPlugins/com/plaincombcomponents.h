@@ -36,6 +36,7 @@ public:
     /// @p rx is matched against the whole of a text that is set.
     StringCombComponent(QWidget* parent, const char* titleStrId, bool titleCheckable,
                         const char* unitStrId, const QRegExp& rx);
+    ~StringCombComponent() override;
 
     /// Shows a text without a signal. False, with nothing done, for one that does not match or
     /// while disabled.

@@ -49,6 +49,12 @@ RealCombComponent::RealCombComponent(QWidget* parent, const char* titleStrId, bo
     addInput(m_pParamTextEdit, 172, 156, 32);
 }
 
+// An editor that goes with the focus reports that it lost it, to a component that is gone by then.
+RealCombComponent::~RealCombComponent()
+{
+    m_pParamTextEdit->disconnect(this);
+}
+
 QString RealCombComponent::getStringValue() const
 {
     return m_pParamTextEdit->getStringValue();

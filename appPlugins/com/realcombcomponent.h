@@ -27,6 +27,7 @@ public:
     RealCombComponent(QWidget* parent, const char* titleStrId, bool titleCheckable,
                       const char* unitStrId, ENUM_UNIT_TYPE unitType, double defaultValue,
                       double absoluteMax, double absoluteMin, double resolution);
+    ~RealCombComponent() override;
 
     /// Shows a value without a signal of change. False, with nothing done, while disabled; false
     /// for a value outside the limits, which emits sgnRealParameterIllegal() and shows the nearest

@@ -42,7 +42,7 @@ RealEditDelegate::RealEditDelegate(const RealPrivate& column, QObject* parent)
     , resolution(column.resolution)
 {}
 
-double RealEditDelegate::convertToDbValue(QString strValue, double dResolution)
+double RealEditDelegate::convertToDbValue(const QString& strValue, double dResolution)
 {
     return engineeringTextToDouble(strValue, dResolution);
 }

@@ -45,7 +45,7 @@ public:
     RealEditDelegate(const RealPrivate& column, QObject* parent);
 
     /// The value of a cell text; see engineeringTextToDouble().
-    static double convertToDbValue(QString strValue, double dResolution);
+    static double convertToDbValue(const QString& strValue, double dResolution);
 
     QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
                           const QModelIndex& index) const override;

@@ -18,9 +18,12 @@ namespace FrontPanel {
 /// Lets everything happen that waits in the event queue, deletions included.
 inline void settle()
 {
-    QCoreApplication::sendPostedEvents();
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    // What is handled may post more: a key handed on, the editor closed by it, its deletion.
+    for (int round = 0; round < 3; ++round) {
+        QCoreApplication::sendPostedEvents();
+        QCoreApplication::processEvents();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
 }
 
 inline QObject* receiver()
@@ -38,8 +41,7 @@ inline QString textOf(int key)
 inline void post(QEvent::Type type, int key)
 {
     if (QObject* target = receiver())
-        QCoreApplication::postEvent(target,
-                                    new QKeyEvent(type, key, Qt::NoModifier, textOf(key)));
+        QCoreApplication::postEvent(target, new QKeyEvent(type, key, Qt::NoModifier, textOf(key)));
 }
 
 /// Presses and releases a key; the release goes to what has the focus by then.

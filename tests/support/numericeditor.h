@@ -16,8 +16,8 @@ struct NumericEditor
     NumericEditor(ENUM_UNIT_TYPE unitType, double value, double resolution)
         : editor(form.add(new appPlugins::ParameterTextWithOrderOfMagnitude(&form, value, unitType,
                                                                             resolution)))
-        , other(form.add(new appPlugins::ParameterTextWithOrderOfMagnitude(&form, 0, UNIT_TIME,
-                                                                           1e-12)))
+        , other(form.add(
+              new appPlugins::ParameterTextWithOrderOfMagnitude(&form, 0, UNIT_TIME, 1e-12)))
         , reported(editor, &appPlugins::ParameterTextWithOrderOfMagnitude::parameterChanged)
         , valueSet(editor, &appPlugins::ParameterTextWithOrderOfMagnitude::valueChanged)
         , focusIn(editor, &appPlugins::ParameterTextWithOrderOfMagnitude::sgn_editorFocusIn)

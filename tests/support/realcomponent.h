@@ -37,7 +37,10 @@ struct RealComponentOf
         return component->template findChild<appPlugins::ParameterTextEdit*>();
     }
 
-    appPlugins::CUnit* prefix() const { return component->template findChild<appPlugins::CUnit*>(); }
+    appPlugins::CUnit* prefix() const
+    {
+        return component->template findChild<appPlugins::CUnit*>();
+    }
 
     /// Digits and prefix as a user sees them.
     QString shown() const { return digits()->toPlainText() + prefix()->text(); }

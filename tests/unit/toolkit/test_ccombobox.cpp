@@ -74,8 +74,8 @@ void TestCComboBox::hasLook()
         QStringLiteral("QComboBox:!editable:focus{border:2px solid rgb(52,120,247);  }")));
     QVERIFY(style.contains(QStringLiteral("/mnt/user-data/.app/appPluginsPics/arrow.png")));
     QVERIFY(style.contains(QStringLiteral("/mnt/user-data/.app/appPluginsPics/arrow_d.png")));
-    QVERIFY(style.contains(QStringLiteral(
-        "background:rgb(30,30,30);selection-background-color: rgb(52,120,247)")));
+    QVERIFY(style.contains(
+        QStringLiteral("background:rgb(30,30,30);selection-background-color: rgb(52,120,247)")));
 }
 
 void TestCComboBox::liftedFingerOpensList()
@@ -104,8 +104,7 @@ void TestCComboBox::itemIsChosenByFinger()
     QTRY_VERIFY(view->window()->windowHandle()->isExposed());
     // A tap that opens the list is no choice within the double-click time.
     QTRY_VERIFY_WITH_TIMEOUT(
-        (FrontPanel::tap(view->viewport(),
-                         view->visualRect(view->model()->index(2, 0)).center()),
+        (FrontPanel::tap(view->viewport(), view->visualRect(view->model()->index(2, 0)).center()),
          !choice.isOpen()),
         5000);
     QCOMPARE(choice.combo->currentIndex(), 2);
@@ -121,9 +120,8 @@ void TestCComboBox::keysGoToParent()
         FrontPanel::press(key);
     QCOMPARE(choice.combo->currentIndex(), 0);
     QVERIFY(!choice.isOpen());
-    QCOMPARE(choice.below->keys,
-             (QVector<int>{Qt::Key_Down, Qt::Key_Up, Qt::Key_B, Qt::Key_Space, QT_KEY_HOME,
-                           QT_KEY_KNOB}));
+    QCOMPARE(choice.below->keys, (QVector<int>{Qt::Key_Down, Qt::Key_Up, Qt::Key_B, Qt::Key_Space,
+                                               QT_KEY_HOME, QT_KEY_KNOB}));
 }
 
 void TestCComboBox::disabledStaysClosed()

@@ -86,8 +86,8 @@ void TestCHorizontalSlider::setMovesAndReports()
 void TestCHorizontalSlider::fingerMoves()
 {
     Switch hundred(100, 0);
-    FrontPanel::tap(hundred.inner(), QPoint(hundred.inner()->width() - 5,
-                                            hundred.inner()->height() / 2));
+    FrontPanel::tap(hundred.inner(),
+                    QPoint(hundred.inner()->width() - 5, hundred.inner()->height() / 2));
     QVERIFY(hundred.slider->value() > 0);
     QCOMPARE(hundred.notice(), QString::number(hundred.slider->value()));
     QVERIFY(hundred.inner()->hasFocus());

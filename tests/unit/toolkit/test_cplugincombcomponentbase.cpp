@@ -29,10 +29,7 @@ struct Row
     QRect item(int index) const { return component->layout()->itemAt(index)->geometry(); }
     QPushButton* title() const { return component->findChild<QPushButton*>(); }
 
-    QLabel* unit() const
-    {
-        return qobject_cast<QLabel*>(component->layout()->itemAt(2)->widget());
-    }
+    QLabel* unit() const { return qobject_cast<QLabel*>(component->layout()->itemAt(2)->widget()); }
 
     ToolkitForm form;
     CPluginCombComponentBase* component;

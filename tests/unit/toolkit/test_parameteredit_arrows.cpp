@@ -34,6 +34,8 @@ class TestParameterEditArrows : public QObject
     Q_OBJECT
 
 private slots:
+    void powerOfPosition_data();
+    void powerOfPosition();
     void arrows_data();
     void arrows();
     void specialRightArrow_data();
@@ -46,6 +48,42 @@ private slots:
     void everyDetentReports();
     void fingerPicksDigit();
 };
+
+void TestParameterEditArrows::powerOfPosition_data()
+{
+    QTest::addColumn<long long>("value");
+    QTest::addColumn<int>("precision");
+    QTest::addColumn<int>("position");
+    QTest::addColumn<int>("power");
+
+    QTest::newRow("tens") << 12345LL << 3 << 0 << 1;
+    QTest::newRow("units") << 12345LL << 3 << 1 << 0;
+    QTest::newRow("before the point") << 12345LL << 3 << 2 << 0;
+    QTest::newRow("first decimal") << 12345LL << 3 << 3 << -1;
+    QTest::newRow("last decimal") << 12345LL << 3 << 5 << -3;
+    QTest::newRow("sign") << -12345LL << 3 << 0 << 2;
+    QTest::newRow("behind the sign") << -12345LL << 3 << 1 << 1;
+    QTest::newRow("no point") << 123LL << 0 << 0 << 2;
+    QTest::newRow("no point, units") << 123LL << 0 << 2 << 0;
+}
+
+// Without the focus the cursor stays where it is put.
+void TestParameterEditArrows::powerOfPosition()
+{
+    QFETCH(long long, value);
+    QFETCH(int, precision);
+    QFETCH(int, position);
+
+    const NumericEditor numeric(UNIT_VOLTAGE, 0, 1e-4);
+    numeric.digits()->updateText(value, precision);
+    QTextCursor cursor = numeric.digits()->textCursor();
+    cursor.setPosition(position);
+    numeric.digits()->setTextCursor(cursor);
+    numeric.digits()->caculatePower();
+    QTEST(numeric.digits()->cursorPower(), "power");
+    QCOMPARE(numeric.digits()->textCursor().position(), position);
+    QVERIFY(numeric.underlined().isEmpty());
+}
 
 void TestParameterEditArrows::arrows_data()
 {
@@ -65,8 +103,8 @@ void TestParameterEditArrows::arrows_data()
     };
     const auto volt = [](const char* name, long long steps, int position, const QVector<int>& keys,
                          const char* shown, int underlined, int power) {
-        QTest::newRow(name) << int(UNIT_VOLTAGE) << 1e-4 << steps << position << keys
-                            << text(shown) << underlined << power;
+        QTest::newRow(name) << int(UNIT_VOLTAGE) << 1e-4 << steps << position << keys << text(shown)
+                            << underlined << power;
     };
     time("right by a digit", 123000000, 0, {R}, "123.000000u", 1, 1);
     time("right over the point", 123000000, 2, {R}, "123.000000u", 4, -1);
@@ -148,8 +186,8 @@ void TestParameterEditArrows::specialRightArrow()
     QKeyEvent event(QEvent::KeyPress, Qt::Key_Right, Qt::NoModifier);
     numeric.digits()->rightArrowClicked(&event, true);
     QTEST(numeric.digits()->toPlainText(), "shown");
-    QVERIFY(LogCapture::messages().contains(text(
-        "debug: ParameterTextEdit::rightArrowClicked, e->count()=1, specialDealWith=true")));
+    QVERIFY(LogCapture::messages().contains(
+        text("debug: ParameterTextEdit::rightArrowClicked, e->count()=1, specialDealWith=true")));
 }
 
 void TestParameterEditArrows::knob_data()

@@ -201,8 +201,8 @@ void TestParameterEditFocus::ownReleasesAreSwallowed()
     NumericEditor numeric(UNIT_VOLTAGE, 1, 1e-4);
     numeric.focusOn(0);
     for (int key : {int(Qt::Key_Left), int(Qt::Key_Right), int(Qt::Key_0), int(Qt::Key_9),
-                    int(Qt::Key_Period), int(Qt::Key_Minus), int(QT_KEY_MINUS),
-                    int(Qt::Key_Delete), int(Qt::Key_Backspace)})
+                    int(Qt::Key_Period), int(Qt::Key_Minus), int(QT_KEY_MINUS), int(Qt::Key_Delete),
+                    int(Qt::Key_Backspace)})
         FrontPanel::press(key);
     QVERIFY(numeric.form.pressed.isEmpty());
     QVERIFY(numeric.form.released.isEmpty());

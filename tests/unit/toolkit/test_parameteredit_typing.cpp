@@ -47,6 +47,7 @@ private slots:
     void onScreenKeypadTypes();
     void nothingIsPasted();
     void keysFasterThanQueue();
+    void foreignKeyFasterThanQueue();
 };
 
 void TestParameterEditTyping::commitsTypedNumber_data()
@@ -359,9 +360,21 @@ void TestParameterEditTyping::keysFasterThanQueue()
     QCOMPARE(numeric.reports(), (QVector<long long>{2000000000, 3000000000, 42000000000}));
     QCOMPARE(numeric.shown(), text("42.000000000m"));
 
+    // The detent comes out of the queue when the focus is gone.
     numeric.focusOn(0);
     FrontPanel::burst({Qt::Key_5, QT_KEY_KM, Qt::Key_Up});
     QCOMPARE(numeric.shown(), text("6.000000000m"));
+    QCOMPARE(numeric.reports().mid(3), (QVector<long long>{5000000000, 6000000000}));
+}
+
+void TestParameterEditTyping::foreignKeyFasterThanQueue()
+{
+    NumericEditor numeric(UNIT_VOLTAGE, 5, 1e-4);
+    numeric.focusOn(0);
+    FrontPanel::burst({Qt::Key_Backspace, QT_KEY_GN, Qt::Key_Right});
+    QCOMPARE(numeric.shown(), text("5.0000"));
+    QCOMPARE(numeric.digits()->textCursor().position(), 2);
+    QCOMPARE(ToolkitForm::unexpectedWarnings(), QStringList());
 }
 
 QTEST_MAIN(TestParameterEditTyping)

@@ -67,8 +67,8 @@ void TestRealCombComponentUser::typedValue_data()
     using Values = QVector<double>;
     const auto row = [](const char* typed, int key, const Values& changes, const Values& illegal,
                         double held, const char* shown) {
-        QTest::addRow("%s by %d", typed, key) << text(typed) << key << changes << illegal << held
-                                              << text(shown);
+        QTest::addRow("%s by %d", typed, key)
+            << text(typed) << key << changes << illegal << held << text(shown);
     };
     row("3", QT_KEY_X1, {3}, {}, 3, "3.0000");
     row("-250", QT_KEY_KM, {-0.25}, {}, -0.25, "-250.0m");
@@ -108,8 +108,7 @@ void TestRealCombComponentUser::knobReportsEachDetent()
     FrontPanel::knob(2);
     FrontPanel::knob(-1);
     QCOMPARE(real.changes(), (QVector<double>{1.1, 1.2, 1.1}));
-    QVERIFY(LogCapture::messages().contains(
-        text("warning: slt_editingFinished paraChanged 1.2")));
+    QVERIFY(LogCapture::messages().contains(text("warning: slt_editingFinished paraChanged 1.2")));
 }
 
 void TestRealCombComponentUser::knobStopsAtLimit()
@@ -218,8 +217,8 @@ void TestRealCombComponentUser::tableKnobReportsOnce()
     QCOMPARE(cell->get(), 7e-6);
     QCOMPARE(cell.shown(), text("7.000u"));
     QVERIFY(cell.isSilent());
-    QVERIFY(LogCapture::messages().contains(text(
-        "warning: slt_editingFinished don't emit paraChanged 7e-06 m_bKnobRotating true")));
+    QVERIFY(LogCapture::messages().contains(
+        text("warning: slt_editingFinished don't emit paraChanged 7e-06 m_bKnobRotating true")));
     FrontPanel::press(key);
     QCOMPARE(cell.changes(), QVector<double>{7e-6});
     QVERIFY(LogCapture::messages().contains(text("warning: eventFilter knob press")));

@@ -26,8 +26,8 @@ struct Choice
 {
     template<typename... Arguments>
     explicit Choice(Arguments... arguments)
-        : number(form.add(new RealCombComponent(&form, "NUMBER", false, nullptr, UNIT_VOLTAGE, 1, 0,
-                                                5, 1e-4)))
+        : number(form.add(
+              new RealCombComponent(&form, "NUMBER", false, nullptr, UNIT_VOLTAGE, 1, 0, 5, 1e-4)))
         , component(form.add(new Component(&form, "TITLE", false, nullptr, arguments...)))
     {
         QObject::connect(component, QOverload<Uint16>::of(&Component::paraChanged), component,
@@ -247,8 +247,7 @@ void TestSelectionCombComponents::comboFollowsLanguage()
     const TestTranslator german(QStringLiteral("de:"));
     FrontPanel::settle();
     for (int i = 0; i < 3; ++i)
-        QCOMPARE(choice.combo()->itemText(i),
-                 QStringLiteral("de:") + QLatin1String(g_labels[i]));
+        QCOMPARE(choice.combo()->itemText(i), QStringLiteral("de:") + QLatin1String(g_labels[i]));
     QCOMPARE(choice.combo()->currentIndex(), 1);
     QCOMPARE(int(choice->get()), 1);
     QVERIFY(choice.reports.isEmpty());

@@ -68,12 +68,12 @@ void TestStepCount::decimals_data()
     QTest::addColumn<int>("count");
 
     const double prefixes[] = {1e9, 1e6, 1e3, 1, 1e-3, 1e-6, 1e-9};
-    const double resolutions[] = {1, 1e-1, 1e-2,  1e-3,  1e-4,  1e-5, 1e-6,
+    const double resolutions[] = {1,    1e-1, 1e-2, 1e-3,  1e-4,  1e-5, 1e-6,
                                   1e-7, 1e-8, 1e-9, 1e-10, 1e-11, 1e-12};
     for (int r = 0; r < 13; ++r) {
         for (int p = 0; p < 7; ++p)
-            QTest::addRow("1e-%d by 1e%d", r, 9 - 3 * p) << resolutions[r] << prefixes[p]
-                                                         << r + 9 - 3 * p;
+            QTest::addRow("1e-%d by 1e%d", r, 9 - 3 * p)
+                << resolutions[r] << prefixes[p] << r + 9 - 3 * p;
     }
 }
 
@@ -124,8 +124,8 @@ void TestStepCount::typed_data()
 
     const long long fallback = 77;
     const auto row = [](const char* text, int decimals, long long steps) {
-        QTest::addRow("\"%s\" by %d", text, decimals) << QString::fromLatin1(text) << decimals
-                                                      << steps;
+        QTest::addRow("\"%s\" by %d", text, decimals)
+            << QString::fromLatin1(text) << decimals << steps;
     };
     row("5", 9, 5000000000);
     row("5", 0, 5);

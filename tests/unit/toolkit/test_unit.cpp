@@ -100,7 +100,8 @@ void TestUnit::prefixes_data()
     const QString micro = QStringLiteral("u");
     const QString nano = QStringLiteral("n");
     QTest::newRow("plain") << int(Plain) << QStringList{kilo, none} << QVector<double>{1e3, 1} << 1;
-    QTest::newRow("frequency") << int(Frequency) << QStringList{giga, mega, kilo, none, milli, micro}
+    QTest::newRow("frequency") << int(Frequency)
+                               << QStringList{giga, mega, kilo, none, milli, micro}
                                << QVector<double>{1e9, 1e6, 1e3, 1, 1e-3, 1e-6} << 3;
     QTest::newRow("volt") << int(Volt) << QStringList{none, milli} << QVector<double>{1, 1e-3} << 0;
     QTest::newRow("time") << int(Time) << QStringList{none, milli, micro, nano}
