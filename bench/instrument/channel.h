@@ -73,6 +73,10 @@ public:
     /// Whether a trigger at the time @p now would begin a burst.
     bool isAtRest(qint64 now) const;
 
+    /// Whether the waveform runs at the time @p now: in a burst, its delay included, or without an
+    /// end.
+    bool isPlaying(qint64 now) const { return m_settings.outputOn && !isAtRest(now); }
+
     /// The burst that began last since the output was switched on; it stays readable when the
     /// output goes off.
     const Trace& trace() const { return m_trace; }

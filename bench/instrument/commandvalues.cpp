@@ -15,6 +15,8 @@ enum StandardError {
     DataTypeError = -104,
     ParameterNotAllowed = -108,
     MissingParameter = -109,
+    InvalidSuffix = -131,
+    SuffixNotAllowed = -138,
     DataOutOfRange = -222,
     IllegalParameterValue = -224,
 };
@@ -83,6 +85,23 @@ bool isWithin(const NumberRange& range, double value)
     return value >= range.minimum && value <= range.maximum;
 }
 
+/// The error number for a number sent with @p unit, empty for none, where @p wanted is its own.
+int unitError(const QByteArray& unit, const QByteArray& wanted)
+{
+    if (unit.isEmpty() || unit == wanted || (unit == "V" && wanted == "VPP"))
+        return 0;
+    return wanted.isEmpty() ? SuffixNotAllowed : InvalidSuffix;
+}
+
+bool acceptsUnit(ScpiCall& call, const char* wanted)
+{
+    const ScpiParameter& parameter = call.parameters.constFirst();
+    const int error = unitError(parameter.unit, wanted);
+    if (error != 0)
+        call.fail(error, parameter.text);
+    return error == 0;
+}
+
 } // namespace
 
 QByteArray shortForm(const char* mnemonic)
@@ -113,8 +132,10 @@ bool readNumber(ScpiCall& call, const NumberRange& range, double& value)
         call.fail(DataTypeError);
         return false;
     }
+    if (!acceptsUnit(call, range.unit))
+        return false;
     if (!isWithin(range, number)) {
-        call.fail(DataOutOfRange);
+        call.fail(DataOutOfRange, parameter->text);
         return false;
     }
     value = number;
@@ -128,6 +149,8 @@ bool readSwitch(ScpiCall& call, bool& on)
         return false;
 
     if (parameter->kind == ScpiParameter::Number) {
+        if (!acceptsUnit(call, ""))
+            return false;
         on = std::fabs(parameter->number) >= 0.5;
         return true;
     }

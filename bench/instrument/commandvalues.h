@@ -24,13 +24,15 @@ struct NumberRange
     double maximum;
     double defaultValue;
     bool mayBeInfinite = false; ///< INFinity is a value too, above the maximum
+    const char* unit = "";      ///< base unit that may be sent: "HZ"; "VPP" takes "V" too
 };
 
 /// A number within the range, or one of the words MINimum, MAXimum, DEFault and INFinity; -222 for
-/// what is out of range, not-a-number words included.
+/// what is out of range, not-a-number words included; -131 for a unit that is not the range's, -138
+/// for one where the range has none.
 bool readNumber(ScpiCall& call, const NumberRange& range, double& value);
 
-/// ON and OFF, or a number that is on unless it rounds to 0.
+/// ON and OFF, or a number that is on unless it rounds to 0; -138 for a number with a unit.
 bool readSwitch(ScpiCall& call, bool& on);
 
 /// Quoted text.

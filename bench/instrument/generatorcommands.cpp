@@ -10,9 +10,9 @@
 
 namespace {
 
-const NumberRange LoadRange = {50, 10000, 50, true};
+const NumberRange LoadRange = {50, 10000, 50, true, "OHM"};
 const NumberRange CyclesRange = {1, 1000000, 1, true};
-const NumberRange DelayRange = {0, 100, 0};
+const NumberRange DelayRange = {0, 100, 0, false, "S"};
 
 } // namespace
 

@@ -14,7 +14,7 @@ const std::initializer_list<const char*> Shapes = {"SINusoid", "EMEMory", "EFILe
 
 NumberRange frequencyRange(const GeneratorModel& model)
 {
-    return {1e-6, model.limits().maxFrequency(), ChannelSettings().frequency};
+    return {1e-6, model.limits().maxFrequency(), ChannelSettings().frequency, false, "HZ"};
 }
 
 bool setShape(ScpiCall& call, ChannelSettings& settings)

@@ -13,7 +13,7 @@ const int BusSource = 3;
 // In the order of EdgeSlope.
 const std::initializer_list<const char*> Slopes = {"POSitive", "NEGative"};
 
-const NumberRange TimerRange = {2e-6, 500, TriggerSettings().timerInterval};
+const NumberRange TimerRange = {2e-6, 500, TriggerSettings().timerInterval, false, "S"};
 
 using TriggerSetter = bool (*)(ScpiCall&, TriggerSettings&);
 using TriggerReader = void (*)(ScpiCall&, const TriggerSettings&);

@@ -26,14 +26,15 @@ NumberRange amplitudeRange(const GeneratorLimits& limits, const ChannelSettings&
 {
     const double factor = loadFactor(settings.loadOhms);
     return {factor * limits.minAmplitude, factor * limits.maxAmplitude,
-            factor * ChannelSettings().amplitude};
+            factor * ChannelSettings().amplitude, false, "VPP"};
 }
 
 NumberRange levelRange(const GeneratorLimits& limits, const ChannelSettings& settings,
                        double defaultVolts)
 {
     const double factor = loadFactor(settings.loadOhms);
-    return {factor * limits.levelMinus, factor * limits.levelPlus, factor * defaultVolts};
+    return {factor * limits.levelMinus, factor * limits.levelPlus, factor * defaultVolts, false,
+            "V"};
 }
 
 bool levelsFit(ScpiCall& call, const GeneratorLimits& limits, const ChannelSettings& settings)

@@ -63,6 +63,18 @@ bool GeneratorModel::triggerChannels(qint64 now)
     return triggered;
 }
 
+quint16 GeneratorModel::operationCondition()
+{
+    const qint64 now = m_clock();
+    advance(now);
+    int bits = 0;
+    for (const Channel& channel : m_channels) {
+        bits |= channel.isAtRest(now) ? WaitingForTrigger : 0;
+        bits |= channel.isPlaying(now) ? Playing : 0;
+    }
+    return quint16(bits);
+}
+
 const Channel& GeneratorModel::channel(int number)
 {
     advance(m_clock());

@@ -55,6 +55,15 @@ public:
     /// another trigger source does nothing.
     bool externalEdge(EdgeSlope edge);
 
+    /// Bits of the OPERation status register.
+    enum OperationBit {
+        WaitingForTrigger = 32, ///< a channel is on, in burst mode and at rest
+        Playing = 256           ///< a channel plays a burst, or without an end
+    };
+
+    /// The OperationBits that are the case now on channel 1 or 2.
+    quint16 operationCondition();
+
     const GeneratorLimits& limits() const { return m_limits; }
 
     /// Channel 1 or 2 as it is now.

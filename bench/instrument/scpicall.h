@@ -20,6 +20,7 @@ struct ScpiParameter
     Kind kind = Word;
     QByteArray text;
     double number = 0; ///< of a Number, in the base unit: the suffix is applied
+    QByteArray unit;   ///< of a Number sent with a suffix: the base unit, such as "HZ"
 };
 
 /// One command or query on its way through the instrument: what was asked, and what came of it.

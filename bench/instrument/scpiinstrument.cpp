@@ -3,6 +3,18 @@
 
 #include "scpiinstrument.h"
 
+namespace {
+
+QByteArray headerText(const QVector<QByteArray>& header, bool isQuery)
+{
+    QByteArray text;
+    for (const QByteArray& mnemonic : header)
+        text += (text.isEmpty() ? "" : ":") + mnemonic;
+    return isQuery ? text + '?' : text;
+}
+
+} // namespace
+
 ScpiInstrument::ScpiInstrument(const ScpiDevice& device)
     : m_device(device)
 {
@@ -40,9 +52,10 @@ void ScpiInstrument::executeUnit(const ScpiUnit& unit, Path& path, QByteArray& r
         reportError(unit.errorNumber);
         return;
     }
-    const ScpiCommandSet::Match match = m_commands.find(resolve(unit, path), unit.isQuery);
+    const Path header = resolve(unit, path);
+    const ScpiCommandSet::Match match = m_commands.find(header, unit.isQuery);
     if (match.command == nullptr) {
-        reportError(match.errorNumber);
+        reportError(match.errorNumber, headerText(header, unit.isQuery));
         return;
     }
     if (unit.isQuery && reply.size() > MaxReplyLength) {
@@ -70,7 +83,9 @@ ScpiInstrument::Path ScpiInstrument::resolve(const ScpiUnit& unit, Path& path) c
 
 void ScpiInstrument::callCommand(const ScpiCommand& command, ScpiCall& call, QByteArray& reply)
 {
+    updateOperation();
     (call.isQuery ? command.query : command.set)(call);
+    updateOperation();
     if (call.errorNumber != 0) {
         reportError(call.errorNumber, call.errorDetail);
         return;
@@ -81,6 +96,12 @@ void ScpiInstrument::callCommand(const ScpiCommand& command, ScpiCall& call, QBy
         reply.append(';');
     reply.append(call.reply);
     m_bReplyWaiting = true;
+}
+
+void ScpiInstrument::updateOperation()
+{
+    if (m_device.operation)
+        m_status.operation().setCondition(m_device.operation());
 }
 
 void ScpiInstrument::trigger()

@@ -20,12 +20,16 @@ struct ScpiDevice
     std::function<void()> reset;   ///< *RST: settings to their defaults
     std::function<bool()> trigger; ///< *TRG; false when the trigger was lost, which is a -211 error
     QVector<ScpiCommand> commands; ///< everything beyond what all SCPI instruments have
+    /// The OPERation bits that are the case now; empty for an instrument that has none.
+    std::function<quint16()> operation = {};
 };
 
 /// An SCPI instrument without sockets: program messages in, response messages out. It has the
 /// common commands of IEEE 488.2, SYSTem:ERRor, SYSTem:VERSion and the STATus registers; the rest
 /// comes from its device. All clients share one, and with it settings, error queue and registers.
-/// Every command is finished before the next begins, so *OPC and *WAI never wait.
+/// Every command is finished before the next begins, so *OPC and *WAI never wait. The OPERation
+/// condition is looked at before and after each command: what begins and ends between two of them
+/// leaves no event.
 class ScpiInstrument
 {
 public:
@@ -62,6 +66,7 @@ private:
     void executeUnit(const ScpiUnit& unit, Path& path, QByteArray& reply);
     Path resolve(const ScpiUnit& unit, Path& path) const;
     void trigger();
+    void updateOperation();
     void callCommand(const ScpiCommand& command, ScpiCall& call, QByteArray& reply);
 
     using Function = std::function<void(ScpiCall&)>;

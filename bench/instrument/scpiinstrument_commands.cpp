@@ -49,9 +49,11 @@ bool readMask(ScpiCall& call, int max, int& mask)
         call.fail(-108);
     else if (call.parameters.first().kind != ScpiParameter::Number)
         call.fail(-104);
+    else if (!call.parameters.first().unit.isEmpty())
+        call.fail(-138);
     else if (std::round(call.parameters.first().number) < 0 ||
              std::round(call.parameters.first().number) > max)
-        call.fail(-222);
+        call.fail(-222, call.parameters.first().text);
     else
         mask = static_cast<int>(std::round(call.parameters.first().number));
     return call.errorNumber == 0;

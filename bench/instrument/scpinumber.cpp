@@ -35,6 +35,7 @@ public:
     {}
 
     int position() const { return m_nPos; }
+    QByteArray unit() const { return m_unit; }
 
     int scan()
     {
@@ -111,8 +112,10 @@ private:
     {
         for (const char* unit : units) {
             const int prefixLength = word.size() - static_cast<int>(qstrlen(unit));
-            if (word.endsWith(unit) && findMultiplier(word.left(prefixLength), unit))
+            if (word.endsWith(unit) && findMultiplier(word.left(prefixLength), unit)) {
+                m_unit = unit;
                 return true;
+            }
         }
         return false;
     }
@@ -132,6 +135,7 @@ private:
     const QByteArray& m_text;
     int m_nPos;
     QByteArray m_mantissa;
+    QByteArray m_unit;
     int m_nDigits = 0;
     int m_nExponent = 0;
     int m_nUnitExponent = 0;
@@ -161,6 +165,7 @@ ScpiNumberResult readScpiNumber(const QByteArray& text, int begin, ScpiParameter
     parameter.text = text.mid(begin, result.end - begin);
     if (result.errorNumber == 0) {
         parameter.number = scanner.value();
+        parameter.unit = scanner.unit();
         result.errorNumber = std::isfinite(parameter.number) ? 0 : -222;
     }
     return result;

@@ -13,9 +13,10 @@ struct ScpiNumberResult
 };
 
 /// Reads the decimal number, with an optional unit, that begins at @p begin of @p text into
-/// @p parameter (kind, text as sent, value in the base unit). Units are HZ, S, V, VPP, OHM, A, DEG
-/// and PCT, with the usual multipliers ("10 kHz", "5us"); M is mega before HZ and OHM and milli
-/// elsewhere. The value is always finite: beyond the range of a double it is the error -222.
+/// @p parameter (kind, text as sent, value in the base unit, base unit). Units are HZ, S, V, VPP,
+/// OHM, A, DEG and PCT, with the usual multipliers ("10 kHz", "5us"); M is mega before HZ and OHM
+/// and milli elsewhere. The value is always finite: beyond the range of a double it is the error
+/// -222.
 ScpiNumberResult readScpiNumber(const QByteArray& text, int begin, ScpiParameter& parameter);
 
 /// Reads the non-decimal number "#H1F", "#Q17" or "#B11" that begins at @p begin likewise.

@@ -13,7 +13,9 @@ InstrumentServer::InstrumentServer(const ServerContext& context, QObject* parent
 bool InstrumentServer::open(quint16 port)
 {
     if (m_context.faults.refuse)
-        return m_closedPort.bind(QHostAddress(QHostAddress::LocalHost), port);
+        // As a listening server binds: connections that ended lately do not hold the port.
+        return m_closedPort.bind(QHostAddress(QHostAddress::LocalHost), port,
+                                 QAbstractSocket::ShareAddress | QAbstractSocket::ReuseAddressHint);
     if (!m_server.listen(QHostAddress(QHostAddress::LocalHost), port))
         return false;
     if (m_context.faults.noAccept)

@@ -69,7 +69,7 @@ ServerConnection::ServerConnection(QTcpSocket* socket, int number, const ServerC
     m_context.clock.tick();
     note(TranscriptEvent::Connected);
     // Bytes that came before the signals were connected, and counts of 0, would wait for ever.
-    QTimer::singleShot(0, this, &ServerConnection::work);
+    m_pieceTimer.start(0);
 }
 
 void ServerConnection::work()
@@ -91,11 +91,15 @@ void ServerConnection::work()
 
 bool ServerConnection::mayWork() const
 {
-    return !m_bClosed && m_pieces.isEmpty() && m_pSocket->bytesToWrite() <= MaxWaitingBytes;
+    const bool isWaiting = !m_bMuted && m_pSocket->bytesToWrite() > MaxWaitingBytes;
+    return !m_bClosed && m_pieces.isEmpty() && !isWaiting;
 }
 
 bool ServerConnection::readMore()
 {
+    // A client that goes with replies unread resets the connection, which leaves nothing to read.
+    if (!m_pSocket->isOpen())
+        return false;
     const QByteArray bytes = m_pSocket->read(std::min(ReadSize, bytesUntilFault()));
     m_nReceived += bytes.size();
     m_session.append(bytes);
@@ -171,15 +175,15 @@ void ServerConnection::send(const QByteArray& reply)
 
 void ServerConnection::sendPiece()
 {
-    if (m_pieces.isEmpty())
-        return;
-    const QByteArray piece = m_pieces.dequeue();
-    if (!m_pieces.isEmpty())
-        m_pieceTimer.start(std::max(m_context.faults.slowMs, PieceGapMs));
-    m_pSocket->write(piece);
-    // Clients take what one read returns for the whole reply, so it leaves in one call, before the
-    // next reply can join it.
-    m_pSocket->flush();
+    if (!m_pieces.isEmpty()) {
+        const QByteArray piece = m_pieces.dequeue();
+        if (!m_pieces.isEmpty())
+            m_pieceTimer.start(std::max(m_context.faults.slowMs, PieceGapMs));
+        m_pSocket->write(piece);
+        // Clients take what one read returns for the whole reply, so it leaves in one call, before
+        // the next reply can join it.
+        m_pSocket->flush();
+    }
     work();
 }
 

@@ -33,8 +33,8 @@ struct Bench
     {
         const QByteArray firmware = QCoreApplication::applicationVersion().toLatin1();
         return {"Multi-Pulse Bench," + model.modelText() + ",SIM000001," + firmware,
-                [&model] { model.reset(); }, [&model] { return model.trigger(); },
-                model.commands()};
+                [&model] { model.reset(); }, [&model] { return model.trigger(); }, model.commands(),
+                [&model] { return model.operationCondition(); }};
     }
 
     ServerClock clock;
@@ -52,11 +52,22 @@ bool isKnownModel(const QString& name)
     return false;
 }
 
+QString unknownModel(const QString& name)
+{
+    QStringList choices;
+    for (const QStringList& family : deviceFamilies())
+        choices += family.at(DeviceName);
+    for (const QStringList& family : deviceFamilies())
+        choices += QString::fromLatin1(generatorLimits(family.at(DeviceName)).modelText);
+    return QStringLiteral("--model %1: no such model; choose one of %2")
+        .arg(name, choices.join(QLatin1String(", ")));
+}
+
 /// What makes the options unusable for an instrument, or an empty text.
 QString checkInstrument(const ServerOptions& options)
 {
     if (!isKnownModel(options.model))
-        return QStringLiteral("--model %1: no such model").arg(options.model);
+        return unknownModel(options.model);
     const QFileInfo folder(options.userData);
     if (!folder.isDir() || !folder.isReadable())
         return QStringLiteral("--user-data %1: not a folder that can be read")

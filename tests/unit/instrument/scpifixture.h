@@ -19,7 +19,7 @@ public:
                           ++triggers;
                           return takesTriggers;
                       },
-                      ownCommands()})
+                      ownCommands(), [this] { return operation; }})
     {}
 
     QByteArray execute(const QByteArray& message) { return instrument.execute(message); }
@@ -37,6 +37,7 @@ public:
     int triggers = 0;
     int longQueries = 0;
     bool takesTriggers = true;
+    quint16 operation = 0;
     QByteArray level = "0";
     QByteArray source = "EXT";
     QByteArray longReply = QByteArray(300000, 'x');

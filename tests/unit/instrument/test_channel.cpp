@@ -157,14 +157,17 @@ void TestChannel::triggersThatAreLost()
     Channel channel;
     QVERIFY(!channel.trigger(0));
     QVERIFY(!channel.isAtRest(0));
+    QVERIFY(!channel.isPlaying(0));
 
     channel.apply(burstSettings(), Cycle, manual(), 0);
     QVERIFY(channel.isAtRest(0));
     QVERIFY(channel.trigger(0));
     QVERIFY(!channel.isAtRest(9999));
+    QVERIFY(channel.isPlaying(9999));
     QVERIFY(!channel.trigger(9999));
     QCOMPARE(channel.count(), qint64(1));
     QVERIFY(channel.isAtRest(10000));
+    QVERIFY(!channel.isPlaying(10000));
     QVERIFY(channel.trigger(10000));
     QCOMPARE(channel.count(), qint64(2));
 

@@ -16,6 +16,9 @@ private slots:
     void mnemonics();
     void numbers_data();
     void numbers();
+    void units_data();
+    void units();
+    void outOfRangeTellsTheValue();
     void infinityWhereItIsAllowed();
     void switches_data();
     void switches();
@@ -43,12 +46,13 @@ ScpiParameter word(const char* text)
     return parameter;
 }
 
-ScpiParameter number(double value)
+ScpiParameter number(double value, const QByteArray& unit = QByteArray())
 {
     ScpiParameter parameter;
     parameter.kind = ScpiParameter::Number;
     parameter.text = QByteArray::number(value);
     parameter.number = value;
+    parameter.unit = unit;
     return parameter;
 }
 
@@ -116,6 +120,7 @@ void TestCommandValues::numbers_data()
     bad("infinity", word("INFinity"), -222);
     bad("ninf", word("ninf"), -222);
     bad("nan", word("nan"), -222);
+    bad("a unit where none may be", number(4, "S"), -138);
     bad("another word", word("lots"), -104);
     bad("a text", quoted("4"), -104);
 }
@@ -129,6 +134,42 @@ void TestCommandValues::numbers()
     QCOMPARE(readNumber(call, Range, value), error == 0);
     QCOMPARE(call.errorNumber, error);
     QTEST(value, "value");
+}
+
+void TestCommandValues::units_data()
+{
+    QTest::addColumn<QByteArray>("wanted");
+    QTest::addColumn<QByteArray>("sent");
+    QTest::addColumn<int>("error");
+
+    QTest::newRow("none") << QByteArray("HZ") << QByteArray() << 0;
+    QTest::newRow("the same") << QByteArray("HZ") << QByteArray("HZ") << 0;
+    QTest::newRow("another") << QByteArray("HZ") << QByteArray("V") << -131;
+    QTest::newRow("volts as an amplitude") << QByteArray("VPP") << QByteArray("V") << 0;
+    QTest::newRow("an amplitude as volts") << QByteArray("V") << QByteArray("VPP") << -131;
+}
+
+void TestCommandValues::units()
+{
+    QFETCH(QByteArray, wanted);
+    QFETCH(QByteArray, sent);
+    QFETCH(int, error);
+    const NumberRange range = {-2, 10, 3, false, wanted.constData()};
+    ScpiCall call = callWith(number(4, sent));
+    double value = 7;
+    QCOMPARE(readNumber(call, range, value), error == 0);
+    QCOMPARE(call.errorNumber, error);
+    QCOMPARE(value, error == 0 ? 4.0 : 7.0);
+}
+
+void TestCommandValues::outOfRangeTellsTheValue()
+{
+    ScpiParameter parameter = number(11);
+    parameter.text = "1.1e1";
+    ScpiCall call = callWith(parameter);
+    double value = 7;
+    QVERIFY(!readNumber(call, Range, value));
+    QCOMPARE(call.errorDetail, QByteArray("1.1e1"));
 }
 
 void TestCommandValues::infinityWhereItIsAllowed()
@@ -159,6 +200,7 @@ void TestCommandValues::switches_data()
     QTest::newRow("0") << number(0) << true << 0 << false;
     QTest::newRow("0.4") << number(0.4) << true << 0 << false;
     QTest::newRow("-3") << number(-3) << false << 0 << true;
+    QTest::newRow("a unit") << number(1, "V") << false << -138 << false;
     QTest::newRow("another word") << word("yes") << true << -224 << true;
     QTest::newRow("a text") << quoted("ON") << false << -104 << false;
 }

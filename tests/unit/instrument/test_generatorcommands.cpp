@@ -94,6 +94,12 @@ void TestGeneratorCommands::settings_data()
     row("SOUR2:FREQ 1 KHZ", "SOUR2:FREQ:FIX?", "1000");
     row("FREQ MIN", "FREQ?", "1E-06");
     row("VOLT 2", "VOLT:LEV:IMM:AMPL?", "2");
+    row("VOLT 2 Vpp", "VOLT?", "2");
+    row("VOLT 200 mV", "VOLT?", "0.2");
+    row("VOLT:OFFS 500mV", "VOLT:OFFS?", "0.5");
+    row("OUTP:IMP 1 kOhm", "OUTP:IMP?", "1000");
+    row("BURS:TDEL 5us", "BURS:TDEL?", "5E-06");
+    row("TRIG:TIM 20 ms", "TRIG:TIM?", "0.02");
     row("VOLT:OFFS -1.5", "SOUR:VOLT:OFFS?", "-1.5");
     row("VOLT:HIGH 2", "VOLT:HIGH?;LOW?;:VOLT?;:VOLT:OFFS?", "2;-0.5;2.5;0.75");
     row("VOLT:LOW -2", "VOLT:HIGH?;LOW?;:VOLT?;:VOLT:OFFS?", "0.5;-2;2.5;-0.75");
@@ -203,6 +209,15 @@ void TestGeneratorCommands::refusals_data()
     row("SOURce1:FREQuency:FIXed -5", -222);
     row("SOURce1:FREQuency:FIXed 125000001", -222);
     row("SOURce1:FREQuency:FIXed fast", -104);
+    row("FREQ 1 V", -131);
+    row("VOLT 1 HZ", -131);
+    row("VOLT:OFFS 1 VPP", -131);
+    row("VOLT:HIGH 1 S", -131);
+    row("OUTP:IMP 50 V", -131);
+    row("BURS:TDEL 1 HZ", -131);
+    row("BURS:NCYC 2 S", -138);
+    row("TRIG:TIM 1 KHZ", -131);
+    row("OUTP 1 V", -138);
     row("VOLT 0", -222);
     row("VOLT 10.1", -222);
     row("VOLT -1", -222);

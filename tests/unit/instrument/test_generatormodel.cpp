@@ -25,6 +25,7 @@ private slots:
     void timer();
     void timerOfAnotherInterval();
     void bothChannelsAreTriggered();
+    void operationCondition();
     void loadedFileSetsTheLevels();
     void loadWhileItPlays();
     void loadOfAnotherChannel();
@@ -159,6 +160,31 @@ void TestGeneratorModel::timerOfAnotherInterval()
     QCOMPARE(generator.model.channel(1).count(), qint64(3));
     generator.now += 1;
     QCOMPARE(generator.model.channel(1).count(), qint64(4));
+}
+
+void TestGeneratorModel::operationCondition()
+{
+    const quint16 waiting = GeneratorModel::WaitingForTrigger;
+    const quint16 playing = GeneratorModel::Playing;
+    GeneratorFixture generator;
+    generator.load(ramp(4), 2, 0, 1e3);
+    generator.setSource(BurstTrigger::Manual);
+    QCOMPARE(generator.model.operationCondition(), quint16(0));
+    generator.setOutput(1, true);
+    QCOMPARE(generator.model.operationCondition(), waiting);
+    QVERIFY(generator.model.trigger());
+    QCOMPARE(generator.model.operationCondition(), playing);
+    generator.now += 999999;
+    QCOMPARE(generator.model.operationCondition(), playing);
+    generator.now += 1;
+    QCOMPARE(generator.model.operationCondition(), waiting);
+
+    generator.setOutput(2, true);
+    QCOMPARE(generator.model.operationCondition(), quint16(waiting | playing));
+    generator.setOutput(1, false);
+    QCOMPARE(generator.model.operationCondition(), playing);
+    generator.model.reset();
+    QCOMPARE(generator.model.operationCondition(), quint16(0));
 }
 
 void TestGeneratorModel::bothChannelsAreTriggered()

@@ -16,6 +16,9 @@ private slots:
     void replies();
     void errors_data();
     void errors();
+    void errorDetails_data();
+    void errorDetails();
+    void operationCondition();
     void resetKeepsStatus();
     void clearStatus();
     void triggerReachesDevice();
@@ -58,7 +61,7 @@ void TestScpiInstrument::replies_data()
     row("SYSTEM:ERROR:NEXT?", "0,\"No error\"\n");
     row("syst:err?;err:coun?", "0,\"No error\";0\n");
     row("NONSENSE;:SYST:ERR:COUN?", "1\n");
-    row("NONSENSE?;:SYST:ERR?;ERR?", "-113,\"Undefined header\";0,\"No error\"\n");
+    row("NONSENSE?;:SYST:ERR?;ERR?", "-113,\"Undefined header;NONSENSE?\";0,\"No error\"\n");
     row("SYST:VERS?", "1999.0\n");
     row("STAT:OPER?", "0\n");
     row("STATus:OPERation:EVENt?", "0\n");
@@ -121,6 +124,7 @@ void TestScpiInstrument::errors_data()
     row("*ESE -1", {-222});
     row("*ESE 1e30", {-222});
     row("*SRE 256", {-222});
+    row("*ESE 5 V", {-138});
     row("STAT:OPER:ENAB 65536", {-222});
     row("STAT:QUES:ENAB", {-109});
     row("*RST 1", {-108});
@@ -144,6 +148,44 @@ void TestScpiInstrument::errors()
     QTEST(fixture.errors(), "numbers");
 }
 
+void TestScpiInstrument::errorDetails_data()
+{
+    QTest::addColumn<QByteArray>("message");
+    QTest::addColumn<QByteArray>("entry");
+
+    const auto row = [](const char* message, const char* entry) {
+        QTest::newRow(message) << QByteArray(message) << QByteArray(entry);
+    };
+    row("foo:Bar 1", "-113,\"Undefined header;FOO:BAR\"");
+    row(":FOO:BAR?", "-113,\"Undefined header;FOO:BAR?\"");
+    row("*FOO", "-113,\"Undefined header;*FOO\"");
+    row("TRIG:SOUR TIM;VOLT 1", "-113,\"Undefined header;TRIG:VOLT\"");
+    row("VOLT2 5", "-114,\"Header suffix out of range;VOLT2\"");
+    row("*SRE 1e3", "-222,\"Data out of range;1e3\"");
+}
+
+void TestScpiInstrument::errorDetails()
+{
+    QFETCH(QByteArray, message);
+    ScpiFixture fixture;
+    fixture.execute(message);
+    QTEST(fixture.instrument.errors().take(), "entry");
+    QVERIFY(fixture.instrument.errors().isEmpty());
+}
+
+void TestScpiInstrument::operationCondition()
+{
+    ScpiFixture fixture;
+    QCOMPARE(fixture.execute("STAT:OPER:COND?;EVEN?"), QByteArray("0;0\n"));
+    fixture.operation = 32;
+    QCOMPARE(fixture.execute("STAT:OPER:ENAB 32;*STB?"), QByteArray("128\n"));
+    QCOMPARE(fixture.execute("STAT:OPER:COND?"), QByteArray("32\n"));
+    fixture.operation = 256;
+    QCOMPARE(fixture.execute("STAT:OPER:COND?"), QByteArray("256\n"));
+    QCOMPARE(fixture.execute("STAT:OPER?"), QByteArray("288\n"));
+    QCOMPARE(fixture.execute("STAT:OPER?;*STB?"), QByteArray("0;16\n"));
+}
+
 void TestScpiInstrument::resetKeepsStatus()
 {
     ScpiFixture fixture;
@@ -157,8 +199,8 @@ void TestScpiInstrument::resetKeepsStatus()
 void TestScpiInstrument::clearStatus()
 {
     ScpiFixture fixture;
+    fixture.operation = 4;
     fixture.execute("*ESE 60;NONSENSE;*OPC");
-    fixture.instrument.status().operation().setCondition(4);
     QCOMPARE(fixture.execute("*CLS"), QByteArray());
     QCOMPARE(fixture.execute("*ESR?;*ESE?;:SYST:ERR?"), QByteArray("0;60;0,\"No error\"\n"));
     QCOMPARE(fixture.execute("STAT:OPER?;OPER:COND?"), QByteArray("0;4\n"));
@@ -225,7 +267,7 @@ void TestScpiInstrument::detailReachesQueue()
 void TestScpiInstrument::groupsAreWired()
 {
     ScpiFixture fixture;
-    fixture.instrument.status().operation().setCondition(0x20);
+    fixture.operation = 0x20;
     fixture.instrument.status().questionable().setCondition(0x01);
     QCOMPARE(fixture.execute("STAT:OPER:COND?;ENAB 32;*STB?;EVEN?;EVEN?;*STB?"),
              QByteArray("32;144;32;0;16\n"));

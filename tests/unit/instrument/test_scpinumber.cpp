@@ -14,6 +14,8 @@ class TestScpiNumber : public QObject
 private slots:
     void values_data();
     void values();
+    void units_data();
+    void units();
     void errors_data();
     void errors();
     void beginsInside();
@@ -81,6 +83,31 @@ void TestScpiNumber::values()
     QCOMPARE(parameter.kind, ScpiParameter::Number);
     QCOMPARE(parameter.text, text.left(end));
     QVERIFY2(parameter.number == value, QByteArray::number(parameter.number, 'g', 17).constData());
+}
+
+void TestScpiNumber::units_data()
+{
+    QTest::addColumn<QByteArray>("text");
+    QTest::addColumn<QByteArray>("unit");
+
+    const auto row = [](const char* text, const char* unit) {
+        QTest::newRow(text) << QByteArray(text) << QByteArray(unit);
+    };
+    row("1", "");
+    row("1e3", "");
+    row("1 kHz", "HZ");
+    row("5us", "S");
+    row("5 mV", "V");
+    row("2Vpp", "VPP");
+    row("1MOHM", "OHM");
+}
+
+void TestScpiNumber::units()
+{
+    QFETCH(QByteArray, text);
+    ScpiParameter parameter;
+    QCOMPARE(readScpiNumber(text, 0, parameter).errorNumber, 0);
+    QTEST(parameter.unit, "unit");
 }
 
 void TestScpiNumber::errors_data()

@@ -14,6 +14,7 @@ private slots:
     void portTaken();
     void portFreeAgain();
     void refuses();
+    void refusesOnAPortOfLateConnections();
     void refusingPortTaken();
     void acceptsNobody();
     void clientsShareTheInstrument();
@@ -68,6 +69,29 @@ void TestServer::refuses()
     QTRY_COMPARE(client.socket.error(), QAbstractSocket::ConnectionRefusedError);
 }
 
+// The side that closes first keeps its end of the connection, and with it the port, for a while.
+void TestServer::refusesOnAPortOfLateConnections()
+{
+    FaultPlan faults;
+    faults.closeAt = 1;
+    quint16 port = 0;
+    {
+        ServerFixture first(faults);
+        port = first.server.port();
+        Client client(first);
+        client.send("*OPC?\n");
+        QTRY_VERIFY(!client.isConnected());
+        QTRY_COMPARE(first.server.clientCount(), 0);
+    }
+    faults = FaultPlan();
+    faults.refuse = true;
+    ScpiFixture device;
+    ServerClock clock;
+    InstrumentServer second({device.instrument, clock, faults, 1, nullptr});
+    QVERIFY2(second.open(port), qPrintable(second.errorString()));
+    QCOMPARE(second.port(), port);
+}
+
 void TestServer::refusingPortTaken()
 {
     ServerFixture first;
@@ -103,8 +127,9 @@ void TestServer::clientsShareTheInstrument()
     first.send("LT?\n*OPC?\n");
     QTRY_COMPARE(first.received, QByteArray("5\n1\n"));
     second.send("VOLT?;:SYST:ERR?;ERR?;ERR?\n");
-    QTRY_COMPARE(second.received.mid(4),
-                 QByteArray("5;-113,\"Undefined header\";0,\"No error\";0,\"No error\"\n"));
+    QTRY_COMPARE(
+        second.received.mid(4),
+        QByteArray("5;-113,\"Undefined header;NONSENSE\";0,\"No error\";0,\"No error\"\n"));
 }
 
 void TestServer::clientsAreCounted()

@@ -3,6 +3,7 @@
 
 #include "serverconnection.h"
 
+#include "logcapture.h"
 #include "serverfixture.h"
 
 #include <QElapsedTimer>
@@ -20,6 +21,7 @@ private slots:
     void executesWhatCameBeforeTheEnd();
     void clientThatOnlyStopsSendingIsAnswered();
     void unreadRepliesHoldCommandsBack();
+    void clientThatLeavesRepliesUnread();
     void overrunIsNoted();
     void slow();
     void slowKeepsOrder();
@@ -135,6 +137,21 @@ void TestServerConnection::unreadRepliesHoldCommandsBack()
     received += socket.readAll().size();
     QTRY_COMPARE_WITH_TIMEOUT(received, qint64(100 * 1000001), 20000);
     QCOMPARE(fixture.device.longQueries, 100);
+}
+
+// The second reply finds the connection reset, while further commands are still to be executed.
+void TestServerConnection::clientThatLeavesRepliesUnread()
+{
+    const LogCapture log;
+    ServerFixture fixture;
+    Client client(fixture);
+    client.send("*OPC?\n");
+    QTRY_COMPARE(client.received, QByteArray("1\n"));
+    client.send("*IDN?\n*IDN?\n*IDN?\n*IDN?\nVOLT 5\n");
+    client.socket.abort();
+    QTRY_COMPARE(fixture.server.clientCount(), 0);
+    QCOMPARE(fixture.device.level, QByteArray("5"));
+    QCOMPARE(LogCapture::messages(), QStringList());
 }
 
 void TestServerConnection::overrunIsNoted()

@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
 // SPDX-License-Identifier: MIT
 
+#include "generatorfixture.h"
+
 #include <QFile>
 #include <QProcess>
 #include <QTcpSocket>
@@ -73,6 +75,9 @@ public:
     QByteArray line;
 };
 
+const QByteArray ModelChoices = "; choose one of KVX705XX, KVX7040X, KVX7030X, KVX7020X, KVX7010X, "
+                                "KVX70501, KVX70402, KVX70302, KVX70202, KVX70102";
+
 QByteArray contentOf(const QString& path)
 {
     QFile file(path);
@@ -96,7 +101,9 @@ private slots:
     void endsOnSignals();
     void identity_data();
     void identity();
+    void tellsWhatTheChannelsDo();
     void transcriptReplaysAlike();
+    void memoryTroublesStayOffTheOutput();
     void comparison();
     void replayOfNonsense();
 
@@ -131,15 +138,16 @@ void TestServerProgram::failures_data()
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QByteArray>("err");
 
-    const auto row = [](const char* arguments, const char* err) {
+    const auto row = [](const char* arguments, const QByteArray& err) {
         QTest::newRow(arguments) << QString::fromLatin1(arguments).split(QLatin1Char(' '))
                                  << QByteArray("kvx-instrument: ") + err + '\n';
     };
     row("--nonsense", "Unknown option 'nonsense'.");
     row("--user-data /no/such/folder",
         "--user-data /no/such/folder: not a folder that can be read");
-    row("--user-data / --model KVX99999", "--model KVX99999: no such model");
-    row("--user-data / --model KVX705", "--model KVX705: no such model");
+    row("--user-data / --model KVX99999", "--model KVX99999: no such model" + ModelChoices);
+    row("--user-data / --model kvx7010x", "--model kvx7010x: no such model" + ModelChoices);
+    row("--user-data / --model KVX705", "--model KVX705: no such model" + ModelChoices);
     row("--user-data / --port 0 --transcript /no/such/folder/t",
         "/no/such/folder/t: No such file or directory");
     row("--user-data / --replay /no/such/file", "/no/such/file: No such file or directory");
@@ -236,6 +244,15 @@ void TestServerProgram::identity()
     QCOMPARE(served.end(), 0);
 }
 
+void TestServerProgram::tellsWhatTheChannelsDo()
+{
+    Served served(this->served({}));
+    QCOMPARE(served.ask("STAT:OPER:COND?;:BURS ON;NCYC INF;:TRIG:SOUR MAN;:OUTP ON;"
+                        ":STAT:OPER:COND?;*TRG;:STAT:OPER:COND?;EVEN?\n"),
+             QByteArray("0;32;256;288\n"));
+    QCOMPARE(served.end(), 0);
+}
+
 void TestServerProgram::transcriptReplaysAlike()
 {
     const QString path = m_folder.filePath(QStringLiteral("first"));
@@ -257,6 +274,34 @@ void TestServerProgram::transcriptReplaysAlike()
     const Run compared({QStringLiteral("--compare"), path, second});
     QCOMPARE(compared.out, QByteArray());
     QCOMPARE(compared.code, 0);
+}
+
+// The waveforms leave room for the last one, but not in one stretch.
+void TestServerProgram::memoryTroublesStayOffTheOutput()
+{
+    writeBytes(m_folder.filePath(QStringLiteral("half.mpwv")),
+               waveformBytes(QVector<qint16>(524288), 1, 0));
+    writeBytes(m_folder.filePath(QStringLiteral("full.mpwv")),
+               waveformBytes(QVector<qint16>(1048576), 1, 0));
+    const QString path = m_folder.filePath(QStringLiteral("loads"));
+    Served served(this->served({QStringLiteral("--transcript"), path}));
+    QCOMPARE(served.ask("FUNC:EFIL 'M:/half.mpwv';:SOUR2:FUNC:EFIL 'M:/full.mpwv';"
+                        ":FUNC:EFIL 'M:/full.mpwv';:SOUR2:FUNC:EFIL 'M:/full.mpwv';"
+                        ":SYST:ERR?\n"),
+             QByteArray("0,\"No error\"\n"));
+    QCOMPARE(served.end(), 0);
+    QCOMPARE(served.process.readAllStandardOutput(), QByteArray());
+    QVERIFY(served.process.readAllStandardError().contains("no enough memory!"));
+
+    const Run replay(
+        {QStringLiteral("--user-data"), m_folder.path(), QStringLiteral("--replay"), path});
+    QCOMPARE(replay.code, 0);
+    QVERIFY(replay.err.contains("no enough memory!"));
+    const QList<QByteArray> lines = replay.out.split('\n');
+    QCOMPARE(lines.size(), 4);
+    QVERIFY(lines.at(1).contains(" > FUNC:EFIL"));
+    QVERIFY(lines.at(2).endsWith(" < 0,\"No error\"\\n"));
+    QCOMPARE(lines.last(), QByteArray());
 }
 
 void TestServerProgram::comparison()
