@@ -71,6 +71,7 @@ void runBatch(int count, int threads,
 {
     Schedule schedule(count, threads);
     std::vector<std::thread> pool;
+    pool.reserve(static_cast<size_t>(std::min(count, threads)));
     for (int i = 0; i < std::min(count, threads); ++i) {
         pool.emplace_back([&schedule, &makeWorker] {
             const std::function<void(int)> work = makeWorker();

@@ -56,6 +56,20 @@ QString askSamples(InstrumentLink& link, std::vector<qint16>& samples)
     return QString();
 }
 
+ChannelTrace traceOf(const std::vector<qint16>& samples, const Scales& scales)
+{
+    const double half = std::fabs(scales.volts) * appPlugins::WaveformFullScale;
+    ChannelTrace trace;
+    trace.start = scales.start;
+    trace.waveform.low = scales.offset - half;
+    trace.waveform.high = scales.offset + half;
+    trace.waveform.step = scales.step;
+    trace.waveform.volts.reserve(samples.size());
+    for (const qint16 sample : samples)
+        trace.waveform.volts.push_back(scales.offset + sample * scales.volts);
+    return trace;
+}
+
 } // namespace
 
 QString fetchTrace(InstrumentLink& link, ChannelTrace& trace)
@@ -79,13 +93,6 @@ QString fetchTrace(InstrumentLink& link, ChannelTrace& trace)
             .arg(samples.size())
             .arg(points);
 
-    const double half = std::fabs(scales.volts) * appPlugins::WaveformFullScale;
-    trace.start = scales.start;
-    trace.waveform.low = scales.offset - half;
-    trace.waveform.high = scales.offset + half;
-    trace.waveform.step = scales.step;
-    trace.waveform.volts.clear();
-    for (const qint16 sample : samples)
-        trace.waveform.volts.push_back(scales.offset + sample * scales.volts);
+    trace = traceOf(samples, scales);
     return QString();
 }

@@ -14,12 +14,12 @@ namespace {
 QString findingsOf(const QString& path, Streams& streams, QVector<Finding>& findings)
 {
     QByteArray bytes;
-    const QString unreadable = readBytes(path, streams, bytes);
+    QString unreadable = readBytes(path, streams, bytes);
     if (!unreadable.isEmpty())
         return unreadable;
 
     QJsonObject document;
-    const QString refused = parseSetup(path, bytes, document);
+    QString refused = parseSetup(path, bytes, document);
     if (refused.isEmpty())
         findings = checkSetup(document);
     else if (isWaveform(bytes) || path.endsWith(QLatin1String(".mpwv")))

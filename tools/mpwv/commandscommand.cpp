@@ -32,7 +32,7 @@ public:
                           "\u23CE."))
     {
         addArgument(QStringLiteral("SETUP"),
-                    QStringLiteral("Setup file, - for standard input; not needed with --stop."),
+                    QStringLiteral("Setup file, - for standard input; none with --stop."),
                     QStringLiteral("[SETUP]"));
         addOption({QStringLiteral("stop")}, QStringLiteral("What Stop sends instead."));
         addOption({QStringLiteral("raw")}, QStringLiteral("The bytes as they are sent."));
@@ -43,14 +43,13 @@ public:
 QString sequenceOf(const CommandLine& line, Streams& streams, QVector<QByteArray>& sequence)
 {
     QJsonObject document;
-    if (!line.arguments().isEmpty()) {
-        const QString reason = readSetup(line.arguments().constFirst(), streams, document);
+    const bool isStop = line.isSet(QStringLiteral("stop"));
+    if (!isStop) {
+        QString reason = readSetup(line.arguments().constFirst(), streams, document);
         if (!reason.isEmpty())
             return reason;
     }
-    sequence = line.isSet(QStringLiteral("stop"))
-                   ? stopSequence()
-                   : RunSequence::runCommands(trainOf(document, line.load()));
+    sequence = isStop ? stopSequence() : RunSequence::runCommands(trainOf(document, line.load()));
     sequence.append(RunSequence::ClosingQuery);
     return QString();
 }
@@ -64,6 +63,10 @@ int runCommands(const QStringList& arguments, Streams& streams)
         return *ended;
     if (line.arguments().isEmpty() && !line.isSet(QStringLiteral("stop")))
         return line.usageError(QStringLiteral("too few arguments"), streams);
+    if (line.isSet(QStringLiteral("stop")) && (!line.arguments().isEmpty() || line.load()))
+        return line.usageError(QStringLiteral("--stop is the same for every setup and load: give "
+                                              "neither of them"),
+                               streams);
 
     QVector<QByteArray> sequence;
     const QString reason = sequenceOf(line, streams, sequence);

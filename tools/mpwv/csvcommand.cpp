@@ -17,13 +17,16 @@ int runCsv(const QStringList& arguments, Streams& streams)
                    QStringLiteral("FILE"));
     if (const std::optional<int> ended = line.parse(arguments, streams, 1, 1))
         return *ended;
+    const bool toFile = line.isSet(QStringLiteral("output"));
+    const QString path = toFile ? line.value(QStringLiteral("output")) : QStringLiteral("-");
+    const QString overwritten = overwriteReason(line.arguments().constFirst(), path);
+    if (!overwritten.isEmpty())
+        return line.usageError(overwritten, streams);
 
     WaveformSource source;
     if (const std::optional<int> ended = readSource(line, streams, source))
         return *ended;
 
-    const bool toFile = line.isSet(QStringLiteral("output"));
-    const QString path = toFile ? line.value(QStringLiteral("output")) : QStringLiteral("-");
     const QString reason = writeOutput(path, csvOf(source.waveform), streams);
     if (reason.isEmpty())
         return ExitOk;

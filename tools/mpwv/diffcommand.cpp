@@ -19,7 +19,7 @@ struct Side
 
 QString readSide(const QString& path, Streams& streams, Side& side)
 {
-    const QString refused = readInput(path, streams, side.input);
+    QString refused = readInput(path, streams, side.input);
     if (!refused.isEmpty())
         return refused;
     const QString reason = waveformOf(side.input, side.file);

@@ -88,8 +88,10 @@ QJsonArray pulsesJson(const WaveformFile& file, const FoundPulses& found)
 QJsonArray thumbnailJson(const quint8* thumbnail)
 {
     QJsonArray columns;
-    for (int i = 0; i < ThumbnailColumns; ++i)
-        columns.append(QJsonArray{thumbnail[2 * i], thumbnail[2 * i + 1]});
+    for (int i = 0; i < ThumbnailColumns; ++i) {
+        const quint8* const pair = thumbnailColumn(thumbnail, i);
+        columns.append(QJsonArray{pair[0], pair[1]});
+    }
     return columns;
 }
 

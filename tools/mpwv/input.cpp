@@ -98,13 +98,13 @@ QString parseSetup(const QString& path, const QByteArray& bytes, QJsonObject& do
 QString readInput(const QString& path, Streams& streams, Input& input)
 {
     QByteArray bytes;
-    const QString unreadable = readBytes(path, streams, bytes);
+    QString unreadable = readBytes(path, streams, bytes);
     if (!unreadable.isEmpty())
         return unreadable;
 
     input.kind = isWaveform(bytes) ? Input::Waveform : Input::Setup;
     if (input.kind == Input::Setup) {
-        const QString reason = parseSetup(path, bytes, input.document);
+        QString reason = parseSetup(path, bytes, input.document);
         // A waveform file that has lost its magic is better told from its name than from not being
         // JSON; but a setup that was saved under such a name is a setup.
         if (reason.isEmpty() || !path.endsWith(QLatin1String(".mpwv")))
@@ -122,8 +122,9 @@ QString readSetup(const QString& path, Streams& streams, QJsonObject& document)
 
 bool parseLoad(const QString& text, LoadImpedance& load)
 {
-    if (text != QLatin1String("50") && text != QLatin1String("hi-z"))
+    const bool isOhm50 = text == QLatin1String("50");
+    if (!isOhm50 && text.compare(QLatin1String("hi-z"), Qt::CaseInsensitive) != 0)
         return false;
-    load = text == QLatin1String("50") ? LoadImpedance::Ohm50 : LoadImpedance::HighZ;
+    load = isOhm50 ? LoadImpedance::Ohm50 : LoadImpedance::HighZ;
     return true;
 }

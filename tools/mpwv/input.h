@@ -14,7 +14,7 @@
 /// Reading what the user names: setup documents and waveform files, "-" for the standard input.
 
 /// Largest setup document that is read, in bytes; what is larger is refused.
-const qint64 MaxSetupBytes = 64 * 1024 * 1024;
+const qint64 MaxSetupBytes = qint64(64) * 1024 * 1024;
 
 /// One input, told apart by its first bytes: a waveform file begins with the format's magic.
 struct Input
@@ -47,14 +47,25 @@ QString parseSetup(const QString& path, const QByteArray& bytes, QJsonObject& do
 /// under its name only when it is complete. Returns an empty text or the reason.
 QString writeOutput(const QString& path, const QByteArray& bytes, Streams& streams);
 
-/// The "--load" option: "50" or "hi-z". False for any other text.
+/// One text for all names of a file, whether it exists or not.
+QString fileIdentity(const QString& path);
+
+/// Why @p output must not be written while @p input is what it is made of: both are one file. Empty
+/// where they are not; a pipe, a device or "-" is never overwritten.
+QString overwriteReason(const QString& input, const QString& output);
+
+/// The "--load" option: "50" or "hi-z", in letters of any case. False for any other text.
 bool parseLoad(const QString& text, LoadImpedance& load);
 
-/// A number with an optional prefix letter of "[munKMG]", as "2u" or "0.5m"; false for anything
-/// else, a unit behind it included.
-bool parseEngineering(const QString& text, double& value);
+/// A number with an optional prefix letter of "[nuµmkKMG]" and then, also optional, @p unit: "2u",
+/// "0.5m", "2us" where the unit is "s". False for anything else.
+bool parseEngineering(const QString& text, double& value, const QString& unit = QString());
 
-/// @p value with @p unit in engineering notation for people: "2.000 us", "125.000 kHz".
+/// The prefix letters of parseEngineering(), for a complaint about a text that it does not take.
+QString prefixHint();
+
+/// @p value with @p unit in engineering notation for people: "2.000 us", "125.000 kHz"; from a
+/// million millions on with an exponent instead, "1.000e+15 s".
 QString engineeringText(double value, const QString& unit);
 
 /// Prints "mpwv: TEXT" on the error stream.

@@ -116,8 +116,10 @@ int runStop(const QStringList& arguments, Streams& streams)
 
 int runIdentify(const QStringList& arguments, Streams& streams)
 {
-    CommandLine line(QStringLiteral("identify"),
-                     QStringLiteral("Asks the instrument who it is and prints its limits."));
+    CommandLine line(
+        QStringLiteral("identify"),
+        QStringLiteral("Asks the instrument who it is and prints its limits. The sampling rate is "
+                       "its converter's, which no other command reckons with."));
     InstrumentPlace place;
     if (const std::optional<int> ended = readOptions(line, arguments, streams, place))
         return *ended;

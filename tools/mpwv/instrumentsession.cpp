@@ -3,6 +3,8 @@
 
 #include "instrumentsession.h"
 
+#include "runsequence.h"
+
 #include "input.h"
 #include "scpiquery.h"
 
@@ -90,7 +92,7 @@ bool InstrumentSession::send(const QVector<QByteArray>& commands)
 
 std::optional<QByteArray> InstrumentSession::confirm()
 {
-    const QByteArray reply = m_link.confirm();
+    const QByteArray reply = m_link.confirm(RunSequence::ClosingQuery);
     if (!reply.isEmpty())
         return reply;
     fail(QStringLiteral("the instrument does not confirm: no reply to the closing query: ") +

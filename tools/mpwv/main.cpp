@@ -3,6 +3,7 @@
 
 #include "input.h"
 #include "tool.h"
+#include "wholefile.h"
 
 #include <QApplication>
 #include <QCoreApplication>
@@ -73,6 +74,7 @@ int runWithStreams(const QStringList& arguments)
 
 int main(int argc, char** argv)
 {
+    removeUnfinishedOnSignals();
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));

@@ -14,15 +14,21 @@ namespace {
 const int SmallestExponent = -12;
 const int LargestExponent = 9;
 
+// Here even the largest prefix leaves more than three digits before the point.
+const double OutOfPrefixes = 1e12;
+
 int prefixExponent(QChar letter)
 {
     switch (letter.unicode()) {
     case 'n':
         return -9;
     case 'u':
+    case 0x00B5: // micro sign
+    case 0x03BC: // the Greek letter
         return -6;
     case 'm':
         return -3;
+    case 'k':
     case 'K':
         return 3;
     case 'M':
@@ -57,12 +63,18 @@ QString prefixText(int exponent)
 
 } // namespace
 
-bool parseEngineering(const QString& text, double& value)
+QString prefixHint()
 {
+    return QStringLiteral("n, u, m, k, M and G may stand behind a number");
+}
+
+bool parseEngineering(const QString& text, double& value, const QString& unit)
+{
+    const bool hasUnit = !unit.isEmpty() && text.endsWith(unit);
     static const QRegularExpression form(
         QStringLiteral("\\A([+-]?(?:[0-9]+\\.?[0-9]*|\\.[0-9]+))(?:[eE]([+-]?[0-9]{1,3}))?"
-                       "([munKMG]?)\\z"));
-    const QRegularExpressionMatch match = form.match(text);
+                       "([nu\u00B5\u03BCmkKMG]?)\\z"));
+    const QRegularExpressionMatch match = form.match(hasUnit ? text.chopped(unit.size()) : text);
     if (!match.hasMatch())
         return false;
 
@@ -83,6 +95,8 @@ QString engineeringText(double value, const QString& unit)
 {
     if (!std::isfinite(value))
         return QString::number(value) + QLatin1Char(' ') + unit;
+    if (std::fabs(value) >= OutOfPrefixes)
+        return QString::number(value, 'e', 3) + QLatin1Char(' ') + unit;
 
     int exponent = engineeringExponent(value);
     QString mantissa = mantissaText(value, exponent);

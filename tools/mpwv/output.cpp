@@ -5,6 +5,7 @@
 #include "wholefile.h"
 
 #include <QFile>
+#include <QFileInfo>
 
 namespace {
 
@@ -18,7 +19,7 @@ QString writeStream(QIODevice& stream, const QByteArray& bytes)
 QString writeFile(const QString& path, const QByteArray& bytes)
 {
     WholeFile whole(path);
-    const QString refused = whole.open();
+    QString refused = whole.open();
     if (!refused.isEmpty())
         return refused;
 
@@ -41,11 +42,29 @@ bool isPlain(QChar character)
 QString writeOutput(const QString& path, const QByteArray& bytes, Streams& streams)
 {
     const bool standard = path == QLatin1String("-");
-    const QString reason = standard ? writeStream(*streams.out, bytes) : writeFile(path, bytes);
+    QString reason = standard ? writeStream(*streams.out, bytes) : writeFile(path, bytes);
     if (reason.isEmpty())
         return reason;
     return (standard ? QStringLiteral("standard output") : printable(path)) + QLatin1String(": ") +
            reason;
+}
+
+QString fileIdentity(const QString& path)
+{
+    const QFileInfo file(path);
+    if (file.exists())
+        return file.canonicalFilePath();
+    const QString folder = QFileInfo(file.path()).canonicalFilePath();
+    return (folder.isEmpty() ? file.absolutePath() : folder) + QLatin1Char('/') + file.fileName();
+}
+
+QString overwriteReason(const QString& input, const QString& output)
+{
+    const QLatin1String standard("-");
+    if (input == standard || output == standard || !QFileInfo(output).isFile() ||
+        fileIdentity(input) != fileIdentity(output))
+        return QString();
+    return QStringLiteral("%1 is the input and would be overwritten").arg(printable(output));
 }
 
 void printError(Streams& streams, const QString& text)

@@ -11,6 +11,7 @@
 #include "pulseplot.h"
 #include "rendering.h"
 #include "scpiquery.h"
+#include "setupcheck.h"
 #include "userdata.h"
 #include "waveformsource.h"
 
@@ -37,6 +38,8 @@ private:
     QString readOptions();
     bool wantsTrace() const { return m_line.isSet(TraceOption) || m_line.isSet(AccountOption); }
     bool wantsTrigger() const { return m_line.isSet(TriggerOption) || wantsTrace(); }
+    void warn(const QJsonObject& document);
+    int play();
     int start();
     int writeFile();
     int watch();
@@ -51,6 +54,9 @@ private:
     InstrumentPlace m_place;
     PulseTrain m_train;
     QString m_strTracePath;
+    QString m_strIdentity; // what the closing query was answered with
+    bool m_bSent = false;  // some of the commands may have arrived
+    bool m_bIsOn = false;  // all of them have
 };
 
 bool isCsv(const QString& path)
@@ -67,7 +73,16 @@ QString Play::readOptions()
     if (m_line.isSet(TraceOption) && !isCsv(m_strTracePath) && !formatOfName(m_strTracePath))
         return QStringLiteral("--trace %1: the name ends in none of .svg, .png and .csv")
             .arg(m_strTracePath);
-    return QString();
+    const QString setup = m_line.arguments().constFirst();
+    complaint = overwriteReason(setup, m_strTracePath);
+    return complaint.isEmpty() ? overwriteReason(setup, runFilePath(m_line)) : complaint;
+}
+
+void Play::warn(const QJsonObject& document)
+{
+    for (const Finding& finding : checkSetup(document))
+        printError(m_streams, QLatin1String("warning: ") +
+                                  findingLine(m_line.arguments().constFirst(), finding));
 }
 
 int Play::run()
@@ -82,7 +97,17 @@ int Play::run()
         printError(m_streams, unreadable);
         return ExitInput;
     }
+    warn(document);
     m_train = trainOf(document, m_line.load());
+    const int played = play();
+    if (played != ExitOk && m_bSent)
+        printError(m_streams, QStringLiteral("the output %1 on; 'mpwv stop' switches it off")
+                                  .arg(m_bIsOn ? QLatin1String("is") : QLatin1String("may be")));
+    return played;
+}
+
+int Play::play()
+{
     const int started = start();
     return started == ExitOk ? watch() : started;
 }
@@ -104,15 +129,14 @@ int Play::start()
     if (written != ExitOk)
         return written;
 
-    const QVector<QByteArray> commands = RunSequence::runCommands(m_train);
-    if (!session.send(commands))
+    m_bSent = true;
+    if (!session.send(RunSequence::runCommands(m_train)))
         return ExitInstrument;
     const std::optional<QByteArray> reply = session.confirm();
     if (!reply)
         return ExitInstrument;
-    print(QStringLiteral("sent %1 commands to %2, which confirms: %3")
-              .arg(commands.size())
-              .arg(m_place.text(), printable(QString::fromUtf8(reply->trimmed()))));
+    m_strIdentity = printable(QString::fromUtf8(reply->trimmed()));
+    m_bIsOn = true;
     return ExitOk;
 }
 
@@ -127,12 +151,16 @@ int Play::writeFile()
 }
 
 // A connection of its own: what the instrument thinks of the sequence is asked as any other client
-// would ask it.
+// would ask it. Its reply to the closing query tells that it has read the commands, not that it has
+// taken them, so that success is told only now.
 int Play::watch()
 {
     InstrumentSession session(m_place, m_streams);
     if (!session.connectToInstrument() || !session.hasNoErrors())
         return ExitInstrument;
+    print(QStringLiteral("sent %1 commands to %2, which confirms: %3")
+              .arg(RunSequence::runCommands(m_train).size())
+              .arg(m_place.text(), m_strIdentity));
     return wantsTrigger() ? triggerAndFetch(session) : int(ExitOk);
 }
 
@@ -213,7 +241,9 @@ int runPlay(const QStringList& arguments, Streams& streams)
     CommandLine line(
         QStringLiteral("play"),
         QStringLiteral("Writes the setup's waveform file for the instrument and starts "
-                       "it on channel 1, as the editor's Run does."));
+                       "it on channel 1, as the editor's Run does. Warns of everything that "
+                       "check would find. The file goes into a folder of this machine, which a "
+                       "remote instrument must share."));
     addOptions(line);
     if (const std::optional<int> ended = line.parse(arguments, streams, 1, 1))
         return *ended;

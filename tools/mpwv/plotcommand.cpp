@@ -58,7 +58,7 @@ QString readRequest(const CommandLine& line, PictureRequest& request)
             .arg(MaxPictureSide);
     request.format = *format;
     request.size = *size;
-    return QString();
+    return overwriteReason(line.arguments().constFirst(), request.path);
 }
 
 } // namespace

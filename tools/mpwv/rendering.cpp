@@ -49,7 +49,7 @@ QString Renderer::makeBytes(const PulseTrain& train, QByteArray& bytes)
     memory.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered,
                 QFileDevice::AutoCloseHandle);
 
-    const QString reason = writeTo("/proc/self/fd/" + QByteArray::number(descriptor), train);
+    QString reason = writeTo("/proc/self/fd/" + QByteArray::number(descriptor), train);
     if (reason.isEmpty())
         bytes = memory.readAll();
     return reason;

@@ -31,22 +31,12 @@ QString outputFor(const QString& setup, const QString& target, bool folder)
     return setup == Standard ? QString(Standard) : waveformName(setup);
 }
 
-// One text for all names of a file, whether it exists or not.
-QString identity(const QString& path)
-{
-    const QFileInfo file(path);
-    if (file.exists())
-        return file.canonicalFilePath();
-    const QString folder = QFileInfo(file.path()).canonicalFilePath();
-    return (folder.isEmpty() ? file.absolutePath() : folder) + QLatin1Char('/') + file.fileName();
-}
-
 QSet<QString> identities(const QStringList& setups)
 {
     QSet<QString> names;
     for (const QString& setup : setups) {
         if (setup != Standard)
-            names.insert(identity(setup));
+            names.insert(fileIdentity(setup));
     }
     return names;
 }
@@ -58,7 +48,7 @@ QString collision(const QVector<RenderJob>& jobs, const QStringList& setups)
     for (const RenderJob& job : jobs) {
         if (job.output == Standard)
             continue;
-        const QString name = identity(job.output);
+        const QString name = fileIdentity(job.output);
         if (inputs.contains(name))
             return QStringLiteral("%1 is a setup and would be overwritten")
                 .arg(printable(job.output));

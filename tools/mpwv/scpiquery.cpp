@@ -28,6 +28,11 @@ QString shownReply(const QByteArray& reply)
     return printable(QString::fromLatin1(reply.left(80)));
 }
 
+QString noEnd(const QByteArray& query, const QByteArray& reply)
+{
+    return failure(query, QStringLiteral("the reply has no end: \"%1\"").arg(shownReply(reply)));
+}
+
 // Reads until the reply is whole. A reply of which only a part comes counts as none.
 template<typename State>
 QString readWhile(InstrumentLink& link, const QByteArray& query, QByteArray& bytes, State isPartial)
@@ -35,7 +40,7 @@ QString readWhile(InstrumentLink& link, const QByteArray& query, QByteArray& byt
     while (isPartial()) {
         const QByteArray piece = link.waitForReply();
         if (piece.isEmpty())
-            return noReply(link, query);
+            return bytes.isEmpty() ? noReply(link, query) : noEnd(query, bytes);
         bytes += piece;
     }
     return QString();
@@ -81,7 +86,7 @@ QString askLine(InstrumentLink& link, const QByteArray& query, QByteArray& reply
     if (!reason.isEmpty())
         return reason;
     if (!bytes.contains('\n'))
-        return failure(query, QStringLiteral("the reply has no end"));
+        return noEnd(query, bytes);
     reply = bytes.left(bytes.indexOf('\n')).trimmed();
     return QString();
 }

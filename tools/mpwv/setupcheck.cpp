@@ -205,6 +205,17 @@ void checkPoints(const PulseTrain& train, FindingList& findings)
     }
 }
 
+// A trigger during a burst is lost, so that the bursts would not come at the timer's rate.
+void checkTimer(const PulseTrain& train, FindingList& findings)
+{
+    const double period = train.totalPeriod();
+    if (train.triggerSource == TriggerTimer && train.triggerTimer < period)
+        findings.add(memberPath(SetupKey::TriggerTimer) + QLatin1String(".value"),
+                     QStringLiteral("%1 is shorter than the train's %2")
+                         .arg(engineeringText(train.triggerTimer, QStringLiteral("s")),
+                              engineeringText(period, QStringLiteral("s"))));
+}
+
 } // namespace
 
 QString findingLine(const QString& file, const Finding& finding)
@@ -227,5 +238,6 @@ QVector<Finding> checkSetup(const QJsonObject& document)
             checkLevels(stored.toObject(), train.load, findings);
     }
     checkPoints(train, findings);
+    checkTimer(train, findings);
     return findings.take();
 }

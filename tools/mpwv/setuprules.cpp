@@ -82,7 +82,7 @@ QString cellReason(const QString& text, const ParameterRange& range)
     const double value = engineeringTextToDouble(text, range.resolution);
     if (value == 0)
         return quoted + QLatin1String(" reads as 0");
-    const QString outside = rangeReason(value, range);
+    QString outside = rangeReason(value, range);
     if (!outside.isEmpty())
         return outside;
     if (!isOnGrid(engineeringTextToDouble(text, FineResolution), range.resolution))

@@ -4,6 +4,7 @@
 #include "setupseries.h"
 
 #include "input.h"
+#include "wholefile.h"
 
 #include <QDir>
 #include <QFile>
@@ -69,7 +70,7 @@ QString moveAll(const QDir& from, const QString& folder)
     Arrivals arrivals(folder);
     const QStringList names = from.entryList(QDir::Files, QDir::Name);
     for (const QString& name : names) {
-        const QString reason = arrivals.take(from, name);
+        QString reason = arrivals.take(from, name);
         if (!reason.isEmpty())
             return reason;
     }
@@ -82,6 +83,8 @@ QString moveAll(const QDir& from, const QString& folder)
 QString writeSeries(const QString& folder, int count,
                     const std::function<SeriesFile(int index)>& makeFile)
 {
+    // All of the files or none, whatever ends the process.
+    const SignalsDelayed delayed;
     const bool existed = QFileInfo::exists(folder);
     if (!QDir().mkpath(folder))
         return named(folder, QStringLiteral("cannot be made a folder"));

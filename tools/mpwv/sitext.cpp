@@ -11,6 +11,9 @@ const char* const Letters[] = {"p", "n", "µ", "m", "", "k", "M", "G"};
 const int FirstPower = -4;
 const int LastPower = 3;
 
+// Here even the largest prefix leaves more than three digits before the point.
+const double OutOfPrefixes = 1e12;
+
 QString letterOf(int power)
 {
     return QString::fromUtf8(Letters[power - FirstPower]);
@@ -53,6 +56,9 @@ QString trimmedNumber(double value, int decimals)
 
 QString siText(double value, const QString& unit)
 {
+    if (std::isfinite(value) && std::fabs(value) >= OutOfPrefixes)
+        return QString::number(value, 'e', 3).replace(QLatin1Char('-'), QStringLiteral("−")) +
+               QLatin1Char(' ') + unit;
     int power = powerOf(value);
     // Rounding to three decimals may carry into the next prefix.
     if (std::isfinite(value) && power < LastPower &&

@@ -19,7 +19,8 @@ struct SiPrefix
 SiPrefix siPrefix(double magnitude);
 
 /// @p value with @p unit, a blank and the prefix between them: at most three decimals, no zeros at
-/// the end. Numbers that are not finite appear as "inf" and "nan".
+/// the end; from a million millions on with an exponent instead. Numbers that are not finite appear
+/// as "inf" and "nan".
 QString siText(double value, const QString& unit);
 
 /// @p value with at most @p decimals decimals, no zeros at the end and a true minus sign; never

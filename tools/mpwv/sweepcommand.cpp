@@ -16,7 +16,12 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 
+#include <algorithm>
+
 namespace {
+
+const QLatin1String Voltage("voltage");
+const QLatin1String Inductance("inductance");
 
 class SweepLine : public CommandLine
 {
@@ -27,14 +32,22 @@ public:
               QStringLiteral("Makes the series of setups of a double-pulse test: copies of a "
                              "setup with the width of one pulse swept, or with the width of "
                              "the first pulse that drives a current through an inductance. "
-                             "Ranges are FROM:TO:STEP, both ends included, numbers as 2u or "
-                             "0.5m. Prints a table of the series."))
+                             "Ranges are FROM:TO:STEP, in steps of STEP from FROM up to TO, "
+                             "numbers as 2u, 0.5m or 2us. Prints a table of the series."))
     {
         addArgument(QStringLiteral("SETUP"), QStringLiteral("Setup file, - for standard input."),
                     QStringLiteral("SETUP"));
         addOption({QStringLiteral("o"), QStringLiteral("output")},
                   QStringLiteral("Folder of the series; made where it does not exist."),
                   QStringLiteral("FOLDER"));
+        addSweepOptions();
+        addJsonOption();
+        addOption({QStringLiteral("csv")}, QStringLiteral("Print the table as CSV."));
+    }
+
+private:
+    void addSweepOptions()
+    {
         addOption({QStringLiteral("pulse")}, QStringLiteral("The pulse to sweep; 1 if not given."),
                   QStringLiteral("NUMBER"));
         addOption({QStringLiteral("width")}, QStringLiteral("Widths in seconds."),
@@ -42,18 +55,22 @@ public:
         addOption({QStringLiteral("current")},
                   QStringLiteral("Currents in amperes, for the first pulse."),
                   QStringLiteral("RANGE"));
-        addOption({QStringLiteral("voltage")}, QStringLiteral("Volts across the inductance."),
+        addOption({Voltage}, QStringLiteral("Volts across the inductance."),
                   QStringLiteral("NUMBER"));
-        addOption({QStringLiteral("inductance")}, QStringLiteral("Henries."),
-                  QStringLiteral("NUMBER"));
-        addJsonOption();
-        addOption({QStringLiteral("csv")}, QStringLiteral("Print the table as CSV."));
+        addOption({Inductance}, QStringLiteral("Henries."), QStringLiteral("NUMBER"));
     }
 };
 
-bool positiveOption(const CommandLine& line, const QString& option, double& value)
+// The complaint about an option that "--current" needs; empty when @p value is filled.
+QString readPositive(const CommandLine& line, const QString& option, const QString& unit,
+                     const QString& example, double& value)
 {
-    return parseEngineering(line.value(option), value) && value > 0;
+    if (!line.isSet(option))
+        return QStringLiteral("--current wants --%1").arg(option);
+    if (parseEngineering(line.value(option), value, unit) && value > 0)
+        return QString();
+    return QStringLiteral("--%1: \"%2\" is no number above 0 such as %3; %4")
+        .arg(option, printable(line.value(option)), example, prefixHint());
 }
 
 SweepPlan wrongPlan(const QString& reason)
@@ -65,11 +82,20 @@ SweepPlan currentPlan(const CommandLine& line, const SweepRange& range)
 {
     double voltage = 0;
     double inductance = 0;
-    if (!positiveOption(line, QStringLiteral("voltage"), voltage))
-        return wrongPlan(QStringLiteral("--current wants --voltage, a number above 0"));
-    if (!positiveOption(line, QStringLiteral("inductance"), inductance))
-        return wrongPlan(QStringLiteral("--current wants --inductance, a number above 0"));
-    return planCurrents(range, voltage, inductance);
+    QString wrong =
+        readPositive(line, Voltage, QStringLiteral("V"), QStringLiteral("400 or 400V"), voltage);
+    if (wrong.isEmpty())
+        wrong = readPositive(line, Inductance, QStringLiteral("H"), QStringLiteral("50u or 50uH"),
+                             inductance);
+    return wrong.isEmpty() ? planCurrents(range, voltage, inductance) : wrongPlan(wrong);
+}
+
+// An option that widths have no use for.
+QString strayOption(const CommandLine& line)
+{
+    if (line.isSet(Voltage))
+        return Voltage;
+    return line.isSet(Inductance) ? QString(Inductance) : QString();
 }
 
 SweepPlan planOf(const CommandLine& line)
@@ -78,31 +104,42 @@ SweepPlan planOf(const CommandLine& line)
     if (currents == line.isSet(QStringLiteral("width")))
         return wrongPlan(QStringLiteral("give either --width or --current"));
 
+    const QString stray = currents ? QString() : strayOption(line);
+    if (!stray.isEmpty())
+        return wrongPlan(QStringLiteral("--%1 goes with --current, not with --width").arg(stray));
     const QString option = currents ? QStringLiteral("current") : QStringLiteral("width");
+    const QString unit = currents ? QStringLiteral("A") : QStringLiteral("s");
     SweepRange range;
-    if (!SweepRange::parse(line.value(option), range))
-        return wrongPlan(QStringLiteral("--%1: \"%2\" is no range FROM:TO:STEP")
-                             .arg(option, printable(line.value(option))));
+    if (!SweepRange::parse(line.value(option), range, unit))
+        return wrongPlan(
+            QStringLiteral("--%1: \"%2\" is no range FROM:TO:STEP such as %3; %4")
+                .arg(option, printable(line.value(option)),
+                     currents ? QStringLiteral("10:100:10") : QStringLiteral("2u:20u:1u"),
+                     prefixHint()));
     return currents ? currentPlan(line, range) : planWidths(range);
 }
 
-// Rows are counted from one; 0 for what is no row that can be swept.
+// Rows are counted from one; 0 for what is no number of a row.
 int pulseOf(const CommandLine& line)
 {
     if (!line.isSet(QStringLiteral("pulse")))
         return 1;
-    const int pulse = line.value(QStringLiteral("pulse")).toInt();
-    const bool first = !line.isSet(QStringLiteral("current")) || pulse == 1;
-    return pulse > 0 && first ? pulse : 0;
+    return std::max(line.value(QStringLiteral("pulse")).toInt(), 0);
 }
 
 QString complaint(const CommandLine& line, const SweepPlan& plan)
 {
-    if (!line.isSet(QStringLiteral("output")))
+    const QString folder = QStringLiteral("output");
+    if (!line.isSet(folder))
         return QStringLiteral("-o FOLDER is missing");
+    if (line.value(folder) == QLatin1String("-"))
+        return QStringLiteral("-o -: a series goes into a folder, not to the standard output");
     if (pulseOf(line) == 0)
-        return QStringLiteral("--pulse: \"%1\" cannot be swept, only the first by its current")
+        return QStringLiteral("--pulse: \"%1\" is no number of a pulse, from 1 on")
             .arg(printable(line.value(QStringLiteral("pulse"))));
+    if (pulseOf(line) > 1 && line.isSet(QStringLiteral("current")))
+        return QStringLiteral("--pulse %1 goes with --width: --current sweeps the first pulse")
+            .arg(pulseOf(line));
     return plan.wrong;
 }
 
@@ -123,6 +160,12 @@ QJsonObject withWidth(QJsonObject document, int row, const QString& width)
     stored.insert(SetupKey::WidthGap, rows);
     document.insert(SetupKey::MultiplePulses, stored);
     return document;
+}
+
+// Sums leave digits behind the ones that were meant.
+double plainNumber(double value)
+{
+    return numberText(value).toDouble();
 }
 
 class Series
@@ -199,12 +242,12 @@ private:
         const TrainTiming timing = timingOf(index);
         const QuantisedTime width = timing.pulses.at(m_nRow).width;
         QJsonObject setup = {{QStringLiteral("file"), nameOf(index)},
-                             {QStringLiteral("width"), width.asked},
+                             {QStringLiteral("width"), plainNumber(width.asked)},
                              {QStringLiteral("played"), width.got},
-                             {QStringLiteral("period"), timing.period},
-                             {QStringLiteral("frequency"), timing.frequency}};
+                             {QStringLiteral("period"), plainNumber(timing.period)},
+                             {QStringLiteral("frequency"), plainNumber(timing.frequency)}};
         if (m_bCurrents)
-            setup.insert(QStringLiteral("current"), m_plan.steps.at(index).current);
+            setup.insert(QStringLiteral("current"), plainNumber(m_plan.steps.at(index).current));
         return setup;
     }
 

@@ -50,9 +50,46 @@ QString repeatedReason(const QVector<SweepStep>& steps)
     return QString();
 }
 
+// Zeros before and behind make the numbers equally long, so that they sort as texts.
+QStringList padded(const QStringList& numbers)
+{
+    const QChar point = QLatin1Char('.');
+    int whole = 0;
+    int decimals = 0;
+    for (const QString& number : numbers) {
+        // No zeros behind an exponent.
+        if (number.contains(QLatin1Char('e')))
+            return numbers;
+        whole = std::max(whole, number.section(point, 0, 0).size());
+        decimals = std::max(decimals, number.section(point, 1).size());
+    }
+    QStringList texts;
+    for (const QString& number : numbers) {
+        const QString left = number.section(point, 0, 0).rightJustified(whole, QLatin1Char('0'));
+        const QString right = number.section(point, 1).leftJustified(decimals, QLatin1Char('0'));
+        texts.append(right.isEmpty() ? left : left + point + right);
+    }
+    return texts;
+}
+
+void nameSteps(QVector<SweepStep>& steps, const QString& currentPrefix)
+{
+    QStringList widths;
+    QStringList currents;
+    for (const SweepStep& step : qAsConst(steps)) {
+        widths.append(QString::number(double(step.nanoseconds) / 1000, 'f', 3));
+        currents.append(currentPrefix.isEmpty() ? QString() : numberText(step.current));
+    }
+    widths = padded(widths);
+    currents = padded(currents);
+    for (int i = 0; i < steps.size(); ++i)
+        steps[i].suffix =
+            currentPrefix + currents.at(i) + QStringLiteral("_w%1u").arg(widths.at(i));
+}
+
 // One value of the range as a step; the reason where it cannot be one.
 template<typename MakeStep>
-SweepPlan planValues(const SweepRange& range, MakeStep makeStep)
+SweepPlan planValues(const SweepRange& range, const QString& currentPrefix, MakeStep makeStep)
 {
     SweepPlan plan;
     const QVector<double> values = range.values(MaxSweepSetups);
@@ -62,33 +99,28 @@ SweepPlan planValues(const SweepRange& range, MakeStep makeStep)
         plan.wrong = makeStep(values.at(i), step);
         plan.steps.append(step);
     }
-    if (plan.wrong.isEmpty())
-        plan.wrong = repeatedReason(plan.steps);
+    if (!plan.wrong.isEmpty())
+        return plan;
+    nameSteps(plan.steps, currentPrefix);
+    plan.wrong = repeatedReason(plan.steps);
     return plan;
-}
-
-SweepStep stepOf(double width, const QString& prefix)
-{
-    SweepStep step;
-    step.nanoseconds = std::llround(width / Nanosecond);
-    step.suffix = prefix + QLatin1String("_w") + cellOfNanoseconds(step.nanoseconds);
-    return step;
 }
 
 } // namespace
 
-bool SweepRange::parse(const QString& text, SweepRange& range)
+bool SweepRange::parse(const QString& text, SweepRange& range, const QString& unit)
 {
     const QStringList parts = text.split(QLatin1Char(':'));
     SweepRange read;
     if (parts.size() == 1) {
-        if (!parseEngineering(parts.at(0), read.from))
+        if (!parseEngineering(parts.at(0), read.from, unit))
             return false;
         range = {read.from, read.from, 0};
         return true;
     }
-    if (parts.size() != 3 || !parseEngineering(parts.at(0), read.from) ||
-        !parseEngineering(parts.at(1), read.to) || !parseEngineering(parts.at(2), read.step))
+    if (parts.size() != 3 || !parseEngineering(parts.at(0), read.from, unit) ||
+        !parseEngineering(parts.at(1), read.to, unit) ||
+        !parseEngineering(parts.at(2), read.step, unit))
         return false;
     if (read.step == 0 || (read.to - read.from) / read.step < 0)
         return false;
@@ -109,26 +141,26 @@ QVector<double> SweepRange::values(int most) const
 
 SweepPlan planWidths(const SweepRange& range)
 {
-    return planValues(range, [](double width, SweepStep& step) {
-        const QString outside = widthReason(width);
+    return planValues(range, QString(), [](double width, SweepStep& step) {
+        QString outside = widthReason(width);
         if (!outside.isEmpty())
             return outside;
         if (!isOnGrid(width, Nanosecond))
             return QStringLiteral("a width of %1 s is not a multiple of 1 ns")
                 .arg(numberText(width));
-        step = stepOf(width, QString());
+        step.nanoseconds = std::llround(width / Nanosecond);
         return QString();
     });
 }
 
 SweepPlan planCurrents(const SweepRange& range, double voltage, double inductance)
 {
-    return planValues(range, [=](double current, SweepStep& step) {
+    return planValues(range, QStringLiteral("_i"), [=](double current, SweepStep& step) {
         const double width = inductance * current / voltage;
         const QString outside = widthReason(width);
         if (!outside.isEmpty())
             return QStringLiteral("%1 A: %2").arg(numberText(current), outside);
-        step = stepOf(width, QStringLiteral("_i") + numberText(current));
+        step.nanoseconds = std::llround(width / Nanosecond);
         step.current = current;
         return QString();
     });

@@ -11,7 +11,8 @@
 /// Most setups of one series.
 const int MaxSweepSetups = 10000;
 
-/// FROM:TO:STEP with numbers as "2u", or one number alone.
+/// From FROM in steps of STEP up to TO, or down to it: FROM:TO:STEP with numbers as "2u", or one
+/// number alone.
 struct SweepRange
 {
     double from = 0;
@@ -19,10 +20,11 @@ struct SweepRange
     double step = 0; ///< against the direction of FROM to TO nothing is swept
 
     /// False for any other text, for a step of 0 and for one that leads away from TO.
-    static bool parse(const QString& text, SweepRange& range);
+    /// The numbers may have @p unit behind them.
+    static bool parse(const QString& text, SweepRange& range, const QString& unit = QString());
 
-    /// The values of the range, both ends included where a whole number of steps lies between them;
-    /// at most @p most + 1 of them.
+    /// The values of the range, TO included where a whole number of steps leads to it; at most @p
+    /// most + 1 of them.
     QVector<double> values(int most) const;
 };
 
@@ -30,9 +32,10 @@ struct SweepStep
 {
     qint64 nanoseconds = 0; ///< width of the pulse
     double current = 0;     ///< amperes; 0 in a series of widths
-    QString suffix;         ///< of the file name: "_w2.000u", "_i10_w1.250u"
+    QString suffix;         ///< of the file name, microseconds: "_w2.000u", "_i10_w1.250u"
 };
 
+/// Suffixes have digits enough for the names of a series to sort by their values.
 struct SweepPlan
 {
     QVector<SweepStep> steps;

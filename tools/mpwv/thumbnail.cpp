@@ -26,8 +26,9 @@ Stroke strokeOf(const quint8* thumbnail, int character)
     const int end = std::min(first + ColumnsPerCharacter, appPlugins::ThumbnailColumns);
     Stroke stroke = {Steps - 1, 0};
     for (int column = first; column < end; ++column) {
-        stroke.low = std::min(stroke.low, thumbnail[2 * column] * Steps / 256);
-        stroke.high = std::max(stroke.high, thumbnail[2 * column + 1] * Steps / 256);
+        const quint8* const pair = thumbnailColumn(thumbnail, column);
+        stroke.low = std::min(stroke.low, pair[0] * Steps / 256);
+        stroke.high = std::max(stroke.high, pair[1] * Steps / 256);
     }
     return stroke;
 }

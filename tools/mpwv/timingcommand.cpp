@@ -13,6 +13,9 @@
 
 namespace {
 
+// Errors and points from here on are written with an exponent.
+const double LongestPlain = 1e12;
+
 QString secondsText(double value)
 {
     return std::isfinite(value) ? engineeringText(value, QStringLiteral("s")) : QStringLiteral("-");
@@ -20,12 +23,20 @@ QString secondsText(double value)
 
 QString signedText(double value)
 {
-    return std::isfinite(value) ? QString::asprintf("%+.3f", value) : QStringLiteral("-");
+    if (!std::isfinite(value))
+        return QStringLiteral("-");
+    return QString::asprintf(std::fabs(value) < LongestPlain ? "%+.3f" : "%+.3e", value);
+}
+
+QString pointsText(double points)
+{
+    const bool isPlain = std::fabs(points) < LongestPlain;
+    return QString::number(points, isPlain ? 'f' : 'e', isPlain ? 0 : 3);
 }
 
 QStringList timeCells(const QuantisedTime& time)
 {
-    return {secondsText(time.asked), secondsText(time.got), QString::number(time.points, 'f', 0),
+    return {secondsText(time.asked), secondsText(time.got), pointsText(time.points),
             signedText(time.error() * 1e9), signedText(time.errorPercent())};
 }
 
@@ -88,7 +99,8 @@ int runTiming(const QStringList& arguments, Streams& streams)
         QStringLiteral("timing"),
         QStringLiteral("Tells what the waveform's points make of each time of a setup: what was "
                        "asked for, what the instrument plays, and the error. All points are played "
-                       "in one period."));
+                       "in one period; the sampling rate of the instrument's own converter is not "
+                       "modelled."));
     line.addArgument(QStringLiteral("SETUP"), QStringLiteral("Setup file, - for standard input."),
                      QStringLiteral("SETUP"));
     line.addJsonOption();

@@ -13,6 +13,7 @@
 namespace {
 
 const int NameWidth = 10;
+const int MostSlips = 2;
 
 QByteArray helpText(const QVector<Command>& commands)
 {
@@ -22,7 +23,8 @@ QByteArray helpText(const QVector<Command>& commands)
     for (const Command& command : commands)
         text += "  " + QByteArray(command.name).leftJustified(NameWidth) + command.summary + '\n';
     text += "\nOptions:\n"
-            "  -h, --help  Print this help; behind a command, the command's.\n"
+            "  -h, --help  Print this help; behind a command, the command's, as \"mpwv help\n"
+            "              COMMAND\" does.\n"
             "  --version   Print the version.\n\n"
             "Exit codes: 0 done, 1 something found or different, 2 wrong use, 3 input refused,\n"
             "4 output not written, 5 the instrument does not answer as it should.\n";
@@ -46,6 +48,7 @@ int editDistance(const QString& from, const QString& to)
     return row.constLast();
 }
 
+// The command that is meant; empty where none is near enough to be a slip of the fingers.
 QString nearest(const QVector<Command>& commands, const QString& name)
 {
     const auto distance = [&name](const Command& command) {
@@ -54,16 +57,27 @@ QString nearest(const QVector<Command>& commands, const QString& name)
     const auto best = std::min_element(
         commands.cbegin(), commands.cend(),
         [&distance](const Command& a, const Command& b) { return distance(a) < distance(b); });
-    return QLatin1String(best->name);
+    return distance(*best) <= MostSlips ? QString(QLatin1String(best->name)) : QString();
 }
 
 int unknownCommand(const QVector<Command>& commands, const QString& name, Streams& streams)
 {
     // A name as long as a letter to the editor is not compared with anything.
     const QString meant = nearest(commands, name.left(NameWidth * 2));
-    printError(streams, QStringLiteral("there is no command \"%1\"; do you mean \"%2\"?")
-                            .arg(printable(name), meant));
+    const QString hint = meant.isEmpty() ? QStringLiteral("\"mpwv --help\" lists them")
+                                         : QStringLiteral("do you mean \"%1\"?").arg(meant);
+    printError(streams, QStringLiteral("there is no command \"%1\"; ").arg(printable(name)) + hint);
     return ExitUsage;
+}
+
+int runNamed(const QVector<Command>& commands, const QString& name, const QStringList& arguments,
+             Streams& streams)
+{
+    for (const Command& command : commands) {
+        if (name == QLatin1String(command.name))
+            return command.run(arguments, streams);
+    }
+    return unknownCommand(commands, name, streams);
 }
 
 } // namespace
@@ -75,7 +89,10 @@ int runTool(const QVector<Command>& commands, const QStringList& arguments, Stre
         printError(streams, QStringLiteral("no command; \"mpwv --help\" lists them"));
         return ExitUsage;
     }
-    if (first == QLatin1String("--help") || first == QLatin1String("-h")) {
+    const bool isHelp = first == QLatin1String("help");
+    if (isHelp && arguments.size() > 1)
+        return runNamed(commands, arguments.at(1), {QStringLiteral("--help")}, streams);
+    if (isHelp || first == QLatin1String("--help") || first == QLatin1String("-h")) {
         streams.out->write(helpText(commands));
         return ExitOk;
     }
@@ -83,9 +100,5 @@ int runTool(const QVector<Command>& commands, const QStringList& arguments, Stre
         streams.out->write("mpwv " MPB_VERSION "\n");
         return ExitOk;
     }
-    for (const Command& command : commands) {
-        if (first == QLatin1String(command.name))
-            return command.run(arguments.mid(1), streams);
-    }
-    return unknownCommand(commands, first, streams);
+    return runNamed(commands, first, arguments.mid(1), streams);
 }

@@ -7,6 +7,7 @@
 
 #include <QVector>
 
-/// Runs the tool with the arguments behind the program's name: one of @p commands, "--help" or
-/// "--version". Returns an ExitCode; an unknown command is answered with the one that was meant.
+/// Runs the tool with the arguments behind the program's name: one of @p commands, "help",
+/// "--help" or "--version". Returns an ExitCode; an unknown command is answered with the one that
+/// was meant, if there is one at most two letters away.
 int runTool(const QVector<Command>& commands, const QStringList& arguments, Streams& streams);

@@ -39,8 +39,8 @@ void checkThumbnail(const WaveformFile& file, QVector<Finding>& findings)
     const Thumbnail expected = thumbnailOf(file.samples);
     int differing = 0;
     for (int column = 0; column < ThumbnailColumns; ++column)
-        differing +=
-            std::memcmp(&expected[size_t(2 * column)], &file.header.thumbnail[2 * column], 2) != 0;
+        differing += std::memcmp(thumbnailColumn(expected.data(), column),
+                                 thumbnailColumn(file.header.thumbnail, column), 2) != 0;
     if (differing > 0)
         findings.append(
             {QStringLiteral("thumbnail"), QStringLiteral("%1 of %2 columns do not show the samples")

@@ -6,6 +6,7 @@
 #include "input.h"
 #include "pulsefinder.h"
 #include "setuprules.h"
+#include "thumbnail.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,7 +31,8 @@ int differingColumns(const WaveformFile& left, const WaveformFile& right)
 {
     int count = 0;
     for (int i = 0; i < ThumbnailColumns; ++i)
-        count += std::memcmp(&left.header.thumbnail[2 * i], &right.header.thumbnail[2 * i], 2) != 0;
+        count += std::memcmp(thumbnailColumn(left.header.thumbnail, i),
+                             thumbnailColumn(right.header.thumbnail, i), 2) != 0;
     return count;
 }
 

@@ -12,18 +12,19 @@ namespace {
 const QLatin1String Period("period");
 const QLatin1String Frequency("frequency");
 
-std::optional<double> positiveValue(const CommandLine& line, const QString& option)
+std::optional<double> positiveValue(const CommandLine& line, const QString& option,
+                                    const QString& unit)
 {
     double value = 0;
-    if (!parseEngineering(line.value(option), value) || !(value > 0))
+    if (!parseEngineering(line.value(option), value, unit) || !(value > 0))
         return std::nullopt;
     return value;
 }
 
 QString badNumber(const CommandLine& line, const QString& option, const QString& example)
 {
-    return QStringLiteral("--%1: \"%2\" is no positive number such as %3")
-        .arg(option, line.value(option), example);
+    return QStringLiteral("--%1: \"%2\" is no positive number such as %3; %4")
+        .arg(option, printable(line.value(option)), example, prefixHint());
 }
 
 // The period that the options give in seconds, or 0 without them; otherwise the complaint.
@@ -32,14 +33,16 @@ QString periodOf(const CommandLine& line, double& seconds)
     if (line.isSet(Period) && line.isSet(Frequency))
         return QStringLiteral("--period and --frequency exclude each other");
     if (line.isSet(Period)) {
-        const std::optional<double> period = positiveValue(line, Period);
+        const std::optional<double> period = positiveValue(line, Period, QStringLiteral("s"));
         seconds = period.value_or(0);
-        return period ? QString() : badNumber(line, Period, QStringLiteral("34u"));
+        return period ? QString() : badNumber(line, Period, QStringLiteral("34u or 34us"));
     }
     if (line.isSet(Frequency)) {
-        const std::optional<double> frequency = positiveValue(line, Frequency);
+        const std::optional<double> frequency =
+            positiveValue(line, Frequency, QStringLiteral("Hz"));
         seconds = frequency ? 1.0 / *frequency : 0;
-        return frequency ? QString() : badNumber(line, Frequency, QStringLiteral("29.412K"));
+        return frequency ? QString()
+                         : badNumber(line, Frequency, QStringLiteral("29.412k or 29.412kHz"));
     }
     return QString();
 }
@@ -74,9 +77,9 @@ void addSourceOptions(CommandLine& line)
     line.addLoadOption();
     line.addOption({Period},
                    QStringLiteral("Period in seconds of a waveform file, which has no time base "
-                                  "of its own: 34u."),
+                                  "of its own: 34u or 34us."),
                    QStringLiteral("SECONDS"));
-    line.addOption({Frequency}, QStringLiteral("The same as a frequency in hertz: 29.412K."),
+    line.addOption({Frequency}, QStringLiteral("The same as a frequency in hertz: 29.412k."),
                    QStringLiteral("HERTZ"));
 }
 

@@ -5,6 +5,24 @@
 
 #include <QString>
 
+#include <mutex>
+
+/// From here on SIGHUP, SIGINT and SIGTERM (those that are not ignored) remove every file that is
+/// still on its way and then end the process as they would have without this call. To be called
+/// once, before any other thread begins: a thread of its own waits for them.
+void removeUnfinishedOnSignals();
+
+/// While one of these exists, the signals of removeUnfinishedOnSignals() wait, and so does every
+/// WholeFile that is opened or goes in another thread.
+class SignalsDelayed
+{
+public:
+    SignalsDelayed();
+
+private:
+    std::unique_lock<std::mutex> m_lock;
+};
+
 /// A file that appears under its name only when it is complete: it is written under a passing name
 /// in the same folder and renamed at the end. What already has the name and is no file (a pipe, a
 /// device) is written in place.
@@ -30,6 +48,9 @@ public:
     QString commit();
 
 private:
+    int openPassing();
+    void forget();
+
     QString m_strPath;
     QString m_strWorkPath;
     bool m_bPending = false;

@@ -5,6 +5,7 @@
 
 #include "command.h"
 #include "pulsetrain.h"
+#include "setupdocument.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -59,15 +60,24 @@ struct TestSetup
         for (const auto& row : rows)
             widthGap.append(QJsonObject{{QStringLiteral("width"), row.first},
                                         {QStringLiteral("gap"), row.second}});
-        const QJsonObject pulses = {
-            {QStringLiteral("trigger delay"), QJsonObject{{QStringLiteral("value"), delay}}},
-            {QStringLiteral("voltage"), QJsonObject{{QStringLiteral("amplitude"), amplitude},
-                                                    {QStringLiteral("offset"), offset}}},
-            {QStringLiteral("trigger source"), source},
-            {QStringLiteral("trigger slope"), slope},
-            {QStringLiteral("load impedance"), ohms},
-            {QStringLiteral("width/gap"), widthGap}};
-        return {{QStringLiteral("multiple pulses"), pulses}};
+        QJsonObject pulses = defaultMultiplePulses();
+        setPart(pulses, SetupKey::PulseNumbers, SetupKey::Value, rows.size());
+        setPart(pulses, SetupKey::TriggerDelay, SetupKey::Value, delay);
+        setPart(pulses, SetupKey::Voltage, SetupKey::Amplitude, amplitude);
+        setPart(pulses, SetupKey::Voltage, SetupKey::Offset, offset);
+        pulses.insert(SetupKey::TriggerSource, source);
+        pulses.insert(SetupKey::TriggerSlope, slope);
+        pulses.insert(SetupKey::LoadImpedance, ohms);
+        pulses.insert(SetupKey::WidthGap, widthGap);
+        return {{SetupKey::MultiplePulses, pulses}};
+    }
+
+    static void setPart(QJsonObject& pulses, QLatin1String part, QLatin1String member,
+                        const QJsonValue& value)
+    {
+        QJsonObject changed = pulses.value(part).toObject();
+        changed.insert(member, value);
+        pulses.insert(part, changed);
     }
 
     QByteArray json() const { return QJsonDocument(document()).toJson(); }

@@ -121,7 +121,7 @@ void TestChannelTrace::lostWithinTheData()
     QVERIFY(link.connectToInstrument());
     ChannelTrace trace;
     QCOMPARE(fetchTrace(link, trace),
-             QStringLiteral("TRACe1:DATA?: no reply: The remote host closed the connection"));
+             QStringLiteral("TRACe1:DATA?: the reply has no end: \"#16\\u0001\\u0002\""));
 }
 
 QTEST_GUILESS_MAIN(TestChannelTrace)

@@ -65,6 +65,14 @@ void TestCommandsCommand::takesAnotherLoad()
 void TestCommandsCommand::refuses()
 {
     QCOMPARE(runWith(runCommands, {}).exitCode, int(ExitUsage));
+    for (const char* argument : {"-", "--load=50"}) {
+        const CommandResult stop =
+            runWith(runCommands, {QStringLiteral("--stop"), QLatin1String(argument)},
+                    jsonText(defaultSetup()));
+        QCOMPARE(stop.exitCode, int(ExitUsage));
+        QCOMPARE(stop.out, QByteArray());
+        QVERIFY(stop.err.startsWith("mpwv: commands: --stop is the same for every setup and load"));
+    }
     const CommandResult result = runWith(runCommands, {QStringLiteral("-")}, "[]");
     QCOMPARE(result.exitCode, int(ExitInput));
     QCOMPARE(result.out, QByteArray());

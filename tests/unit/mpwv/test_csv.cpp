@@ -12,6 +12,8 @@
 
 namespace {
 
+#define PREFIXES "; n, u, m, k, M and G may stand behind a number"
+
 // A waveform file of four points at -1 V and 1 V.
 QByteArray smallWaveform()
 {
@@ -40,6 +42,7 @@ private slots:
     void bareFile_data();
     void bareFile();
     void intoFile();
+    void keepsItsInput();
     void usage_data();
     void usage();
     void refusedInput_data();
@@ -87,6 +90,12 @@ void TestCsv::bareFile_data()
     QTest::newRow("period with prefix")
         << QStringList{QStringLiteral("--period"), QStringLiteral("4K")}
         << QByteArray("time_s,volts\n0,-1\n1000,1\n2000,1\n3000,-1\n");
+    QTest::newRow("period with unit")
+        << QStringList{QStringLiteral("--period"), QStringLiteral("4ks")}
+        << QByteArray("time_s,volts\n0,-1\n1000,1\n2000,1\n3000,-1\n");
+    QTest::newRow("frequency with unit")
+        << QStringList{QStringLiteral("--frequency"), QStringLiteral("500mHz")}
+        << QByteArray("time_s,volts\n0,-1\n0.5,1\n1,1\n1.5,-1\n");
     QTest::newRow("frequency") << QStringList{QStringLiteral("--frequency"), QStringLiteral("0.5")}
                                << QByteArray("time_s,volts\n0,-1\n0.5,1\n1,1\n1.5,-1\n");
 }
@@ -112,6 +121,17 @@ void TestCsv::intoFile()
     QCOMPARE(contentOf(path), QByteArray("point,volts\n0,-1\n1,1\n2,1\n3,-1\n"));
 }
 
+void TestCsv::keepsItsInput()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.json"));
+    writeFile(path, TestSetup::doublePulse().json());
+    const Ran ran = ranWith(runCsv, {path, QStringLiteral("-o"), path});
+    QCOMPARE(ran.exitCode, int(ExitUsage));
+    QVERIFY(ran.err.startsWith("mpwv: csv: " + path.toUtf8() + " is the input and would be "));
+    QCOMPARE(contentOf(path), TestSetup::doublePulse().json());
+}
+
 void TestCsv::usage_data()
 {
     QTest::addColumn<QStringList>("arguments");
@@ -126,13 +146,13 @@ void TestCsv::usage_data()
         {dash, QStringLiteral("--period=1"), QStringLiteral("--frequency=1")},
         "csv: --period and --frequency exclude each other");
     row("period zero", {dash, QStringLiteral("--period=0")},
-        "csv: --period: \"0\" is no positive number such as 34u");
+        "csv: --period: \"0\" is no positive number such as 34u or 34us" PREFIXES);
     row("period negative", {dash, QStringLiteral("--period=-1")},
-        "csv: --period: \"-1\" is no positive number such as 34u");
-    row("period with unit", {dash, QStringLiteral("--period=2us")},
-        "csv: --period: \"2us\" is no positive number such as 34u");
+        "csv: --period: \"-1\" is no positive number such as 34u or 34us" PREFIXES);
+    row("period with another unit", {dash, QStringLiteral("--period=2uV")},
+        "csv: --period: \"2uV\" is no positive number such as 34u or 34us" PREFIXES);
     row("frequency no number", {dash, QStringLiteral("--frequency=fast")},
-        "csv: --frequency: \"fast\" is no positive number such as 29.412K");
+        "csv: --frequency: \"fast\" is no positive number such as 29.412k or 29.412kHz" PREFIXES);
 }
 
 void TestCsv::usage()

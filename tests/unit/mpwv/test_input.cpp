@@ -20,6 +20,8 @@ class TestInput : public QObject
 private slots:
     void parsesEngineering_data();
     void parsesEngineering();
+    void parsesUnits_data();
+    void parsesUnits();
     void refusesEngineering_data();
     void refusesEngineering();
     void printsEngineering_data();
@@ -35,6 +37,7 @@ private slots:
     void refusesEndlessInput();
     void writesWholeFiles();
     void tellsWhyAnOutputIsNotWritten();
+    void protectsTheInput();
     void keepsTextsOnOneLine();
 
 private:
@@ -59,6 +62,9 @@ void TestInput::parsesEngineering_data()
     QTest::newRow("nano with decimals") << QStringLiteral("20.5n") << 20.5e-09;
     QTest::newRow("milli") << QStringLiteral("0.5m") << 0.0005;
     QTest::newRow("kilo") << QStringLiteral("1K") << 1000.0;
+    QTest::newRow("small kilo") << QStringLiteral("2k") << 2000.0;
+    QTest::newRow("micro sign") << QStringLiteral("2\u00B5") << 2e-6;
+    QTest::newRow("Greek letter") << QStringLiteral("2\u03BC") << 2e-6;
     QTest::newRow("mega") << QStringLiteral("2M") << 2e6;
     QTest::newRow("giga") << QStringLiteral("2G") << 2e9;
     QTest::newRow("exponent") << QStringLiteral("2e-6") << 2e-06;
@@ -75,11 +81,47 @@ void TestInput::parsesEngineering()
     QTEST(value, "value");
 }
 
+void TestInput::parsesUnits_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QString>("unit");
+    QTest::addColumn<bool>("good");
+    QTest::addColumn<double>("value");
+    const auto row = [](const char* text, const char* unit, bool good, double value) {
+        QTest::addRow("%s in %s", text, unit)
+            << QString::fromUtf8(text) << QString::fromUtf8(unit) << good << value;
+    };
+    row("2us", "s", true, 2e-6);
+    row("2\xC2\xB5s", "s", true, 2e-6);
+    row("2s", "s", true, 2);
+    row("400V", "V", true, 400);
+    row("50uH", "H", true, 50e-6);
+    row("10A", "A", true, 10);
+    row("31.25kHz", "Hz", true, 31250);
+    row("2e-6s", "s", true, 2e-6);
+    row("2u", "s", true, 2e-6);
+    row("2V", "s", false, 17);
+    row("2uss", "s", false, 17);
+    row("s", "s", false, 17);
+    row("2 us", "s", false, 17);
+    row("2US", "s", false, 17);
+}
+
+void TestInput::parsesUnits()
+{
+    QFETCH(QString, text);
+    QFETCH(QString, unit);
+    double value = 17;
+    QTEST(parseEngineering(text, value, unit), "good");
+    QTEST(value, "value");
+}
+
 void TestInput::refusesEngineering_data()
 {
     QTest::addColumn<QString>("text");
-    const char* const texts[] = {"",    "u",   "2us", "2 u", " 2", "2u ",   "u2",   "2uu", "0x10",
-                                 "inf", "nan", "1,5", ".",   "2k", "1e999", "2\nu", "--2", "1e"};
+    const char* const texts[] = {"",   "u",     "2us",  "2V",  "2 u", " 2",  "2u ",
+                                 "u2", "2uu",   "0x10", "inf", "nan", "1,5", ".",
+                                 "2h", "1e999", "2\nu", "--2", "1e"};
     for (const char* text : texts)
         QTest::newRow(qPrintable(QLatin1Char('"') + QLatin1String(text)))
             << QString::fromUtf8(text);
@@ -108,7 +150,9 @@ void TestInput::printsEngineering_data()
     QTest::newRow("just below a thousand") << 999.9996e-06 << s << QStringLiteral("1.000 ms");
     QTest::newRow("negative below a thousand") << -999.9996e-06 << s << QStringLiteral("-1.000 ms");
     QTest::newRow("a thousand") << 1e-06 << s << QStringLiteral("1.000 us");
-    QTest::newRow("beyond the prefixes") << 1e13 << s << QStringLiteral("10000.000 Gs");
+    QTest::newRow("beyond the prefixes") << 1e13 << s << QStringLiteral("1.000e+13 s");
+    QTest::newRow("largest plain") << 999.9e9 << s << QStringLiteral("999.900 Gs");
+    QTest::newRow("huge") << -1e300 << s << QStringLiteral("-1.000e+300 s");
     QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << s
                               << QStringLiteral("inf s");
 }
@@ -127,7 +171,10 @@ void TestInput::parsesLoad()
     QVERIFY(load == LoadImpedance::Ohm50);
     QVERIFY(parseLoad(QStringLiteral("hi-z"), load));
     QVERIFY(load == LoadImpedance::HighZ);
-    for (const char* text : {"", "HI-Z", "10000", "50 ", "75"})
+    load = LoadImpedance::Ohm50;
+    QVERIFY(parseLoad(QStringLiteral("Hi-Z"), load));
+    QVERIFY(load == LoadImpedance::HighZ);
+    for (const char* text : {"", "HIZ", "10000", "50 ", "75"})
         QVERIFY2(!parseLoad(QLatin1String(text), load), text);
     QVERIFY(load == LoadImpedance::HighZ);
 }
@@ -257,6 +304,26 @@ void TestInput::tellsWhyAnOutputIsNotWritten()
              QStringLiteral("/dev/full: No space left on device"));
     QCOMPARE(writeOutput(QStringLiteral("/tmp"), "x", streams),
              QStringLiteral("/tmp: is a folder"));
+}
+
+void TestInput::protectsTheInput()
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a"));
+    const QString link = folder.filePath(QStringLiteral("b"));
+    const QString other = folder.filePath(QStringLiteral("c"));
+    QVERIFY(writeBytes(path, "x"));
+    QVERIFY(writeBytes(other, "x"));
+    QVERIFY(QFile::link(path, link));
+    QCOMPARE(overwriteReason(path, path), path + QLatin1String(" is the input and would be "
+                                                               "overwritten"));
+    QVERIFY(!overwriteReason(folder.path() + QLatin1String("/./a"), path).isEmpty());
+    QVERIFY(!overwriteReason(path, link).isEmpty());
+    QCOMPARE(overwriteReason(path, other), QString());
+    QCOMPARE(overwriteReason(path, folder.filePath(QStringLiteral("new"))), QString());
+    QCOMPARE(overwriteReason(QStringLiteral("-"), QStringLiteral("-")), QString());
+    const QString device = QStringLiteral("/dev/null");
+    QCOMPARE(overwriteReason(device, device), QString());
 }
 
 void TestInput::keepsTextsOnOneLine()

@@ -96,6 +96,8 @@ private slots:
     void play();
     void playWithOtherLoad();
     void playIntoTheFixedFolder();
+    void playWarns();
+    void playKeepsItsInput();
     void playReportsErrors();
     void playWithoutErrorQueue();
     void playTriggers();
@@ -169,6 +171,37 @@ void TestInstrumentCommands::playIntoTheFixedFolder()
     QVERIFY(QFile::remove(QStringLiteral("/mnt/user-data/run.mpwv")));
 }
 
+void TestInstrumentCommands::playWarns()
+{
+    TestSetup setup = TestSetup::doublePulse();
+    setup.slope = 2;
+    Folder folder;
+    ScriptedServer server(runScript(setup));
+    expectHeaderWarning();
+    const Ran ran =
+        ranWith(runPlay, QStringList(QStringLiteral("-")) + folder.option, setup.json());
+    QCOMPARE(ran.err, QByteArray("mpwv: warning: -: multiple pulses.trigger slope: 2 is outside 0 "
+                                 "to 1\n"));
+    QCOMPARE(ran.exitCode, int(ExitOk));
+}
+
+void TestInstrumentCommands::playKeepsItsInput()
+{
+    Folder folder;
+    const QByteArray json = TestSetup::doublePulse().json();
+    const QString path = folder.directory.filePath(QStringLiteral("a.csv"));
+    writeFile(path, json);
+    writeFile(folder.runFile, json);
+    const Ran traced =
+        ranWith(runPlay, QStringList{path, QStringLiteral("--trace"), path} + folder.option);
+    QCOMPARE(traced.exitCode, int(ExitUsage));
+    QVERIFY(traced.err.startsWith("mpwv: play: " + path.toUtf8() + " is the input and would be "));
+    QCOMPARE(ranWith(runPlay, QStringList(folder.runFile) + folder.option).exitCode,
+             int(ExitUsage));
+    QCOMPARE(contentOf(path), json);
+    QCOMPARE(contentOf(folder.runFile), json);
+}
+
 void TestInstrumentCommands::playReportsErrors()
 {
     const TestSetup setup = TestSetup::doublePulse();
@@ -185,7 +218,9 @@ void TestInstrumentCommands::playReportsErrors()
     QCOMPARE(
         ran.err,
         QByteArray("mpwv: 127.0.0.1:30000: the instrument reports -256,\"File name not found\"\n"
-                   "mpwv: 127.0.0.1:30000: the instrument reports -222,\"Data out of range\"\n"));
+                   "mpwv: 127.0.0.1:30000: the instrument reports -222,\"Data out of range\"\n"
+                   "mpwv: the output is on; 'mpwv stop' switches it off\n"));
+    QCOMPARE(ran.out, "wrote " + folder.runFile.toUtf8() + '\n');
     // What has not been understood is not triggered.
     QVERIFY(!server.received().contains("*TRG"));
 }
@@ -203,7 +238,7 @@ void TestInstrumentCommands::playWithoutErrorQueue()
     QCOMPARE(ran.exitCode, int(ExitInstrument));
     QCOMPARE(ran.err,
              QByteArray("mpwv: 127.0.0.1:30000: SYSTem:ERRor?: \"hello\" is no entry of an "
-                        "error queue\n"));
+                        "error queue\nmpwv: the output is on; 'mpwv stop' switches it off\n"));
 }
 
 void TestInstrumentCommands::playTriggers()
@@ -308,7 +343,8 @@ void TestInstrumentCommands::playBeforeAnyBurst()
         runPlay, QStringList{QStringLiteral("-"), QStringLiteral("--account")} + folder.option,
         setup.json());
     QCOMPARE(ran.exitCode, int(ExitInstrument));
-    QCOMPARE(ran.err, QByteArray("mpwv: 127.0.0.1:30000: channel 1 has played no burst\n"));
+    QCOMPARE(ran.err, QByteArray("mpwv: 127.0.0.1:30000: channel 1 has played no burst\n"
+                                 "mpwv: the output is on; 'mpwv stop' switches it off\n"));
 }
 
 void TestInstrumentCommands::playNobodyThere()
@@ -351,9 +387,11 @@ void TestInstrumentCommands::playConnectionLost()
     const QRegularExpression form(QStringLiteral(
         "^mpwv: 127\\.0\\.0\\.1:30000: (the connection was lost at the command "
         "\"[^\"]+.*\"|the instrument does not confirm: no reply to the closing query|"
-        "SYSTem:ERRor\\?: no reply): [A-Z][^\n]+\n$"));
+        "SYSTem:ERRor\\?: no reply): [A-Z][^\n]+\n"
+        "mpwv: the output (is|may be) on; 'mpwv stop' switches it off\n$"));
     QVERIFY2(form.match(QString::fromUtf8(ran.err)).hasMatch(), ran.err.constData());
     QCOMPARE(ran.err.contains("SYSTem:ERRor"), line == 16);
+    QCOMPARE(ran.err.contains("output is on"), line == 16);
 }
 
 void TestInstrumentCommands::playFolderMissing()

@@ -21,6 +21,7 @@ private slots:
     void usage_data();
     void usage();
     void refusedInput();
+    void keepsItsInput();
     void outputFails();
 };
 
@@ -102,6 +103,18 @@ void TestPlotCommand::refusedInput()
     QCOMPARE(ran.exitCode, int(ExitInput));
     QVERIFY2(ran.err.startsWith("mpwv: standard input: "), ran.err.constData());
     QVERIFY(!QFile::exists(path));
+}
+
+void TestPlotCommand::keepsItsInput()
+{
+    QTemporaryDir folder;
+    const QString path = folder.filePath(QStringLiteral("a.mpwv"));
+    writeFile(path, TestSetup::doublePulse().json());
+    const Ran ran =
+        ranWith(runPlot, {path, QStringLiteral("-o"), path, QStringLiteral("--format=png")});
+    QCOMPARE(ran.exitCode, int(ExitUsage));
+    QVERIFY(ran.err.startsWith("mpwv: plot: " + path.toUtf8() + " is the input and would be "));
+    QCOMPARE(contentOf(path), TestSetup::doublePulse().json());
 }
 
 void TestPlotCommand::outputFails()

@@ -3,11 +3,14 @@
 
 #include "commandrun.h"
 
+#include <QDir>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QtTest>
+
+#include <csignal>
 
 /// The built program, and its man page beside it.
 class TestProgram : public QObject
@@ -25,6 +28,8 @@ private slots:
     void keepsItsErrorStreamClean();
     void tellsOfAFullOutput();
     void refusesUnknownCommands();
+    void leavesNothingHalfDone_data();
+    void leavesNothingHalfDone();
 
 private:
     static CommandResult run(const QStringList& arguments, const QByteArray& input = QByteArray(),
@@ -211,6 +216,43 @@ void TestProgram::refusesUnknownCommands()
     QCOMPARE(result.exitCode, int(ExitUsage));
     QCOMPARE(result.err,
              QByteArray("mpwv: there is no command \"plott\"; do you mean \"plot\"?\n"));
+}
+
+void TestProgram::leavesNothingHalfDone_data()
+{
+    QTest::addColumn<int>("number");
+    QTest::newRow("SIGINT") << SIGINT;
+    QTest::newRow("SIGTERM") << SIGTERM;
+}
+
+// Several threads are in the middle of their files when the signal comes.
+void TestProgram::leavesNothingHalfDone()
+{
+    QFETCH(int, number);
+    const QTemporaryDir folder;
+    QStringList arguments = {QStringLiteral("render"), QStringLiteral("-j8"), QStringLiteral("-o"),
+                             folder.filePath(QStringLiteral("out"))};
+    for (int i = 0; i < 2000; ++i) {
+        arguments.append(folder.filePath(QStringLiteral("%1.json").arg(i)));
+        QVERIFY(writeBytes(arguments.last(), jsonText(defaultSetup())));
+    }
+    // A signal that is ignored, as in the background of a shell, would be ignored by the program
+    // too.
+    std::signal(number, SIG_DFL);
+    QProcess process;
+    process.start(QString::fromLocal8Bit(qgetenv("MPB_BIN_DIR")) + QLatin1String("/mpwv"),
+                  arguments);
+    QVERIFY(process.waitForStarted());
+    const QDir out(folder.filePath(QStringLiteral("out")));
+    QTRY_VERIFY(!out.entryList(QDir::Files).isEmpty());
+    QCOMPARE(::kill(pid_t(process.processId()), number), 0);
+    QVERIFY(process.waitForFinished());
+    QCOMPARE(process.exitStatus(), QProcess::CrashExit);
+    QCOMPARE(process.exitCode(), number);
+    QVERIFY(out.entryList(QDir::Files).size() < 2000);
+    for (const QFileInfo& file : out.entryInfoList(QDir::Files | QDir::Hidden))
+        QVERIFY2(file.suffix() == QLatin1String("mpwv") && file.size() == 512 + 2 * 131070,
+                 qPrintable(file.fileName()));
 }
 
 QTEST_GUILESS_MAIN(TestProgram)

@@ -21,6 +21,7 @@ private slots:
     void line_data();
     void line();
     void lineWithoutEnd();
+    void lineCutShort();
     void blockInPieces();
     void noBlock();
     void blockCutShort();
@@ -106,7 +107,20 @@ void TestScpiQuery::lineWithoutEnd()
     InstrumentLink link;
     QVERIFY(link.connectToInstrument());
     QByteArray reply("untouched");
-    QCOMPARE(askLine(link, "*IDN?\n", reply), QStringLiteral("*IDN?: the reply has no end"));
+    QCOMPARE(
+        askLine(link, "*IDN?\n", reply),
+        QStringLiteral("*IDN?: the reply has no end: \"%1\"").arg(QString(80, QLatin1Char('x'))));
+    QCOMPARE(reply, QByteArray("untouched"));
+}
+
+void TestScpiQuery::lineCutShort()
+{
+    ScriptedServer server({{{"rub\x01"}, true}});
+    InstrumentLink link;
+    QVERIFY(link.connectToInstrument());
+    QByteArray reply("untouched");
+    QCOMPARE(askLine(link, "*IDN?\n", reply),
+             QStringLiteral("*IDN?: the reply has no end: \"rub\\u0001\""));
     QCOMPARE(reply, QByteArray("untouched"));
 }
 
@@ -140,7 +154,7 @@ void TestScpiQuery::blockCutShort()
     QVERIFY(link.connectToInstrument());
     QByteArray data("untouched");
     QCOMPARE(askBlock(link, "TRACe1:DATA?\n", data),
-             QStringLiteral("TRACe1:DATA?: no reply: The remote host closed the connection"));
+             QStringLiteral("TRACe1:DATA?: the reply has no end: \"#15he\""));
     QCOMPARE(data, QByteArray("untouched"));
 }
 

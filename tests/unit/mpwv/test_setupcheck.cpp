@@ -4,6 +4,7 @@
 #include "setupcheck.h"
 
 #include "commandrun.h"
+#include "pulsetrain.h"
 
 #include <QtTest>
 
@@ -89,6 +90,11 @@ void TestSetupCheck::findsNothingInWhatTheEditorWrites_data()
         << editorSetup(0.3, -0.1, LoadImpedance::Ohm50);
     QTest::newRow("prefix in an odd place") << withWidth(QStringLiteral("2u.000"));
     QTest::newRow("longest timer") << withPart(SetupKey::TriggerTimer, SetupKey::Value, 500);
+    QTest::newRow("timer as long as the train")
+        << withMember(withPart(SetupKey::TriggerTimer, SetupKey::Value, 34.1e-6),
+                      SetupKey::TriggerSource, TriggerTimer);
+    QTest::newRow("short timer that does not trigger")
+        << withPart(SetupKey::TriggerTimer, SetupKey::Value, 2e-6);
     QTest::newRow("finest timer") << withPart(SetupKey::TriggerTimer, SetupKey::Value, 499.9999999);
     QTest::newRow("finest delay") << withPart(SetupKey::TriggerDelay, SetupKey::Value, 1.0001e-6);
 }
@@ -139,6 +145,10 @@ void TestSetupCheck::finds_data()
         ".trigger delay.value: 1.00005e-06 s is not a multiple of 100.000 ps");
     row("timer above", withPart(SetupKey::TriggerTimer, SetupKey::Value, 501),
         ".trigger timer.value: 501.000 s is above the limit of 500.000 s");
+    row("timer shorter than the train",
+        withMember(withPart(SetupKey::TriggerTimer, SetupKey::Value, 33.9e-6),
+                   SetupKey::TriggerSource, TriggerTimer),
+        ".trigger timer.value: 33.900 us is shorter than the train's 34.000 us");
     row("high level", withPart(SetupKey::Voltage, SetupKey::Offset, 4.5),
         ".voltage: high level 5.5 V is above 5 V, the limit of the largest models");
     row("low level", withPart(SetupKey::Voltage, SetupKey::Offset, -4.5),

@@ -35,7 +35,9 @@ void TestSiText::text_data()
     QTest::newRow("carry") << 999.9996e-9 << QStringLiteral("1 µs");
     QTest::newRow("negative") << -1.5 << QStringLiteral("−1.5 s");
     QTest::newRow("kilo") << 29411.764706 << QStringLiteral("29.412 ks");
-    QTest::newRow("largest prefix") << 5e12 << QStringLiteral("5000 Gs");
+    QTest::newRow("largest prefix") << 5e11 << QStringLiteral("500 Gs");
+    QTest::newRow("beyond the prefixes") << 5e12 << QStringLiteral("5.000e+12 s");
+    QTest::newRow("huge") << -1e300 << QStringLiteral("−1.000e+300 s");
     QTest::newRow("smallest prefix") << 2e-15 << QStringLiteral("0.002 ps");
     QTest::newRow("infinite") << std::numeric_limits<double>::infinity() << QStringLiteral("inf s");
     QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN()

@@ -7,6 +7,8 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#define PREFIXES "; n, u, m, k, M and G may stand behind a number"
+
 /// "mpwv sweep": the series of setups of a double-pulse test.
 class TestSweepCommand : public QObject
 {
@@ -74,12 +76,12 @@ void TestSweepCommand::makesWidths()
 // 50 uH at 400 V: 1.25 us for each 10 A.
 void TestSweepCommand::makesCurrents()
 {
-    const CommandResult result = sweep({QStringLiteral("--current"), QStringLiteral("10:100:10"),
-                                        QStringLiteral("--voltage"), QStringLiteral("400"),
-                                        QStringLiteral("--inductance"), QStringLiteral("50u")});
+    const CommandResult result = sweep(
+        {QStringLiteral("--current"), QStringLiteral("10A:100A:10A"), QStringLiteral("--voltage"),
+         QStringLiteral("400V"), QStringLiteral("--inductance"), QStringLiteral("50\u00B5H")});
     QCOMPARE(result.exitCode, int(ExitOk));
     QCOMPARE(QDir(series()).entryList(QDir::Files).size(), 10);
-    const PulseTrain first = PulseTrain::fromDocument(document("base_i10_w1.250u.json"));
+    const PulseTrain first = PulseTrain::fromDocument(document("base_i010_w01.250u.json"));
     const PulseTrain last = PulseTrain::fromDocument(document("base_i100_w12.500u.json"));
     QVERIFY(qAbs(first.pulses.at(0).width - 1.25e-6) < 1e-15);
     QVERIFY(qAbs(last.pulses.at(0).width - 12.5e-6) < 1e-15);
@@ -92,7 +94,7 @@ void TestSweepCommand::sweepsAnotherPulse()
                     QStringLiteral("20n")})
                  .exitCode,
              int(ExitOk));
-    QCOMPARE(document("base_w20.000n.json"),
+    QCOMPARE(document("base_w0.020u.json"),
              withRows(defaultSetup(), {{QStringLiteral("2.000u"), QStringLiteral("10.000u")},
                                        {QStringLiteral("20.000n"), QStringLiteral("10.000u")}}));
 }
@@ -117,24 +119,34 @@ void TestSweepCommand::refusesUse_data()
     };
     row("neither", "", "give either --width or --current");
     row("both", "--width 2u --current 1", "give either --width or --current");
-    row("range", "--width 2u:3u", "--width: \"2u:3u\" is no range FROM:TO:STEP");
-    row("unit", "--width 2us", "--width: \"2us\" is no range FROM:TO:STEP");
-    row("away", "--width 3u:2u:1u", "--width: \"3u:2u:1u\" is no range FROM:TO:STEP");
-    row("standing", "--width 2u:3u:0", "--width: \"2u:3u:0\" is no range FROM:TO:STEP");
+    row("range", "--width 2u:3u",
+        "--width: \"2u:3u\" is no range FROM:TO:STEP such as 2u:20u:1u" PREFIXES);
+    row("unit", "--width 2uV",
+        "--width: \"2uV\" is no range FROM:TO:STEP such as 2u:20u:1u" PREFIXES);
+    row("away", "--width 3u:2u:1u",
+        "--width: \"3u:2u:1u\" is no range FROM:TO:STEP such as 2u:20u:1u" PREFIXES);
+    row("standing", "--width 2u:3u:0",
+        "--width: \"2u:3u:0\" is no range FROM:TO:STEP such as 2u:20u:1u" PREFIXES);
     row("short", "--width 19n:30n:1n", "a width of 19.000 ns is outside 20.000 ns to 150.000 us");
     row("long", "--width 150u:151u:1u", "a width of 151.000 us is outside 20.000 ns to 150.000 us");
     row("grid", "--width 2u:2.002u:0.5n", "a width of 2.0005e-06 s is not a multiple of 1 ns");
     row("many", "--width 20n:150u:1n", "more than 10000 setups");
-    row("voltage", "--current 1", "--current wants --voltage, a number above 0");
+    row("voltage", "--current 1", "--current wants --voltage");
+    row("bad voltage", "--current 1 --voltage 400A",
+        "--voltage: \"400A\" is no number above 0 such as 400 or 400V" PREFIXES);
     row("inductance", "--current 1 --voltage 400 --inductance 0",
-        "--current wants --inductance, a number above 0");
+        "--inductance: \"0\" is no number above 0 such as 50u or 50uH" PREFIXES);
+    row("width with voltage", "--width 2u --voltage 400",
+        "--voltage goes with --current, not with --width");
+    row("width with inductance", "--width 2u --inductance 50u",
+        "--inductance goes with --current, not with --width");
+    row("standard output", "--width 2u -o -",
+        "-o -: a series goes into a folder, not to the standard output");
     row("large current", "--current 10:10000:10 --voltage 400 --inductance 50u",
         "1210 A: a width of 151.250 us is outside 20.000 ns to 150.000 us");
-    row("pulse", "--pulse 0 --width 2u",
-        "--pulse: \"0\" cannot be swept, only the first by its "
-        "current");
+    row("pulse", "--pulse 0 --width 2u", "--pulse: \"0\" is no number of a pulse, from 1 on");
     row("pulse by current", "--pulse 2 --current 10 --voltage 400 --inductance 50u",
-        "--pulse: \"2\" cannot be swept, only the first by its current");
+        "--pulse 2 goes with --width: --current sweeps the first pulse");
 }
 
 void TestSweepCommand::refusesUse()
@@ -186,6 +198,10 @@ void TestSweepCommand::printsCsvAndJson()
     QCOMPARE(setups.size(), 2);
     QCOMPARE(setups.at(1).toObject().value(QStringLiteral("file")).toString(),
              QStringLiteral("base_w8.000u.json"));
+    const CommandResult tenths = sweep(
+        {QStringLiteral("--width"), QStringLiteral("0.1u:0.9u:0.1u"), QStringLiteral("--json")});
+    QVERIFY2(tenths.out.contains("\"width\": 3e-07\n"), tenths.out.constData());
+    QVERIFY2(tenths.out.contains("\"period\": 3.23e-05,\n"), tenths.out.constData());
     QVERIFY(qAbs(setups.at(1).toObject().value(QStringLiteral("period")).toDouble() - 40e-6) <
             1e-15);
 }

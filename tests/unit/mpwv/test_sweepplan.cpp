@@ -5,6 +5,8 @@
 
 #include <QtTest>
 
+Q_DECLARE_METATYPE(SweepPlan)
+
 class TestSweepPlan : public QObject
 {
     Q_OBJECT
@@ -18,6 +20,9 @@ private slots:
     void countsValues();
     void plansWidths();
     void plansCurrents();
+    void namesSortByValue_data();
+    void namesSortByValue();
+    void takesUnits();
     void refusesSteps();
     void writesCells_data();
     void writesCells();
@@ -44,8 +49,8 @@ void TestSweepPlan::parsesRanges()
 void TestSweepPlan::refusesRanges_data()
 {
     QTest::addColumn<QString>("text");
-    for (const char* text :
-         {"", ":", "1:2", "1:2:", "1:2:0", "1:2:-1", "2:1:1", "1:2:3:4", "a:b:c", "1us", "1:inf:1"})
+    for (const char* text : {"", ":", "1:2", "1:2:", "1:2:0", "1:2:-1", "2:1:1", "1:2:3:4", "a:b:c",
+                             "1us", "1x", "1:inf:1"})
         QTest::newRow(qPrintable(QLatin1Char('"') + QLatin1String(text)))
             << QString::fromUtf8(text);
 }
@@ -105,7 +110,41 @@ void TestSweepPlan::plansCurrents()
     QCOMPARE(plan.steps.at(1).nanoseconds, qint64(667));
     QCOMPARE(plan.steps.at(2).nanoseconds, qint64(1000));
     QCOMPARE(plan.steps.at(1).current, 2.0);
-    QCOMPARE(plan.steps.at(1).suffix, QStringLiteral("_i2_w667.000n"));
+    QCOMPARE(plan.steps.at(1).suffix, QStringLiteral("_i2_w0.667u"));
+}
+
+void TestSweepPlan::namesSortByValue_data()
+{
+    QTest::addColumn<SweepPlan>("plan");
+    QTest::addColumn<QString>("first");
+    QTest::newRow("nanoseconds and microseconds")
+        << planWidths({20e-9, 150e-6, 4.999e-6}) << QStringLiteral("_w000.020u");
+    QTest::newRow("currents") << planCurrents({10, 100, 10}, 400, 50e-6)
+                              << QStringLiteral("_i010_w01.250u");
+    QTest::newRow("halves") << planCurrents({9, 11, 0.5}, 400, 50e-6)
+                            << QStringLiteral("_i09.0_w1.125u");
+    QTest::newRow("exponents") << planCurrents({1e-5, 1e-5, 0}, 1, 1)
+                               << QStringLiteral("_i1e-05_w10.000u");
+}
+
+void TestSweepPlan::namesSortByValue()
+{
+    QFETCH(SweepPlan, plan);
+    QCOMPARE(plan.wrong, QString());
+    QTEST(plan.steps.first().suffix, "first");
+    for (int i = 1; i < plan.steps.size(); ++i)
+        QVERIFY2(plan.steps.at(i - 1).suffix < plan.steps.at(i).suffix,
+                 qPrintable(plan.steps.at(i).suffix));
+}
+
+void TestSweepPlan::takesUnits()
+{
+    SweepRange range;
+    QVERIFY(SweepRange::parse(QStringLiteral("2us:4us:1us"), range, QStringLiteral("s")));
+    QCOMPARE(range.values(10).size(), 3);
+    QVERIFY(SweepRange::parse(QStringLiteral("10A"), range, QStringLiteral("A")));
+    QCOMPARE(range.from, 10.0);
+    QVERIFY(!SweepRange::parse(QStringLiteral("10A"), range, QStringLiteral("s")));
 }
 
 void TestSweepPlan::refusesSteps()

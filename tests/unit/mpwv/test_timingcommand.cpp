@@ -14,6 +14,7 @@ private slots:
     void printsText();
     void printsJson();
     void copesWithoutAPeriod();
+    void keepsHugeNumbersShort();
     void refuses();
 };
 
@@ -86,6 +87,17 @@ void TestTimingCommand::copesWithoutAPeriod()
     const QJsonObject timing = QJsonDocument::fromJson(json.out).object();
     QVERIFY(timing.value(QStringLiteral("spacing")).isNull());
     QVERIFY(timing.value(QStringLiteral("frequency")).isNull());
+}
+
+void TestTimingCommand::keepsHugeNumbersShort()
+{
+    const SetupRow row = {QStringLiteral("1e300"), QStringLiteral("1.000u")};
+    const CommandResult text =
+        runWith(runTiming, {QStringLiteral("-")}, jsonText(withRows(defaultSetup(), {row, row})));
+    QCOMPARE(text.exitCode, int(ExitOk));
+    QVERIFY2(text.out.contains("1.000e+300 s"), text.out.constData());
+    for (const QByteArray& line : text.out.split('\n'))
+        QVERIFY2(line.size() < 80, line.constData());
 }
 
 void TestTimingCommand::refuses()

@@ -48,12 +48,20 @@ void TestTool::runsTheCommand()
 
 void TestTool::printsHelpAndVersion()
 {
-    for (const char* option : {"--help", "-h"}) {
+    for (const char* option : {"--help", "-h", "help"}) {
         const CommandResult help = runWith(runTools, {QLatin1String(option)});
         QCOMPARE(help.exitCode, int(ExitOk));
         QVERIFY(help.out.startsWith("Usage: mpwv COMMAND [options] ...\n"));
         QVERIFY(help.out.contains("\n  render    make files\n  check     look at files\n"));
     }
+    const CommandResult named = runWith(runTools, {QStringLiteral("help"), QStringLiteral("stop")});
+    QCOMPARE(named.exitCode, int(ExitFound));
+    QCOMPARE(named.out, QByteArray("--help"));
+    const CommandResult unknown =
+        runWith(runTools, {QStringLiteral("help"), QStringLiteral("stpo")});
+    QCOMPARE(unknown.exitCode, int(ExitUsage));
+    QCOMPARE(unknown.err,
+             QByteArray("mpwv: there is no command \"stpo\"; do you mean \"stop\"?\n"));
     const CommandResult version = runWith(runTools, {QStringLiteral("--version")});
     QCOMPARE(version.exitCode, int(ExitOk));
     QVERIFY(QRegularExpression(QStringLiteral("\\Ampwv \\d+\\.\\d+\\.\\d+\\n\\z"))
@@ -74,8 +82,15 @@ void TestTool::suggests_data()
     row("chekc", "chekc", "check");
     row("stopp", "stopp", "stop");
     row("Render", "Render", "render");
-    row("--chek", "--chek", "check");
-    row("a\n", "a\\u000a", "stop");
+    row("-check", "-check", "check");
+    const auto none = [](const char* name, const char* shown) {
+        QTest::newRow(shown) << QString::fromUtf8(name)
+                             << "mpwv: there is no command \"" + QByteArray(shown) +
+                                    "\"; \"mpwv --help\" lists them\n";
+    };
+    none("version", "version");
+    none("--chek", "--chek");
+    none("a\n", "a\\u000a");
 }
 
 void TestTool::suggests()
