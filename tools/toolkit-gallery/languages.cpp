@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
+// SPDX-License-Identifier: MIT
+
+#include "languages.h"
+
+#include <QCoreApplication>
+#include <QMap>
+
+namespace {
+
+QString catalogue(const QString& name, const QString& language)
+{
+    return QStringLiteral(":/translations/%1_%2.qm").arg(name, language);
+}
+
+} // namespace
+
+QStringList Languages::all()
+{
+    return {QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("zh_CN"),
+            QStringLiteral("ja")};
+}
+
+QString Languages::nameOf(const QString& language)
+{
+    static const QMap<QString, QString> names = {
+        {QStringLiteral("en"), QStringLiteral("English")},
+        {QStringLiteral("de"), QStringLiteral("Deutsch")},
+        {QStringLiteral("zh_CN"), QStringLiteral("中文")},
+        {QStringLiteral("ja"), QStringLiteral("日本語")},
+    };
+    return names.value(language);
+}
+
+Languages::Languages() = default;
+
+Languages::~Languages()
+{
+    QCoreApplication::removeTranslator(&m_galleryTexts);
+    QCoreApplication::removeTranslator(&m_toolkitTexts);
+}
+
+bool Languages::install(const QString& language)
+{
+    if (!all().contains(language))
+        return false;
+    if (language == m_strCurrent)
+        return true;
+
+    m_strCurrent = language;
+    for (QTranslator* texts : {&m_toolkitTexts, &m_galleryTexts})
+        QCoreApplication::removeTranslator(texts);
+    const bool loaded = m_toolkitTexts.load(catalogue(QStringLiteral("multipulse"), language)) &&
+                        m_galleryTexts.load(catalogue(QStringLiteral("gallery"), language));
+    Q_ASSERT(loaded);
+    for (QTranslator* texts : {&m_toolkitTexts, &m_galleryTexts})
+        QCoreApplication::installTranslator(texts);
+    return loaded;
+}
