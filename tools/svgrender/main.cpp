@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 
 #include <QCommandLineParser>
-#include <QGuiApplication>
+#include <QCoreApplication>
 #include <QImage>
 #include <QPainter>
 #include <QSvgRenderer>
@@ -10,7 +10,8 @@
 #include <cstdio>
 
 // Renders a vector picture to a PNG of the size that the picture itself gives, whatever the name of
-// the output: some pictures are installed without an extension. Used by the build.
+// the output: some pictures are installed without an extension. Used by the build, and so does
+// without the window system, which pictures without text need not.
 
 namespace {
 
@@ -34,8 +35,7 @@ QImage render(QSvgRenderer& source, double scale)
 
 int main(int argc, char** argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(argc, argv);
+    const QCoreApplication application(argc, argv);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Renders an SVG picture to a PNG file."));

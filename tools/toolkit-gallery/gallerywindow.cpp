@@ -24,6 +24,8 @@
 #include <QStackedWidget>
 #include <QVBoxLayout>
 
+#include <utility>
+
 namespace {
 
 // The callbacks are plain functions, which know no window.
@@ -35,8 +37,9 @@ QPointer<GalleryWindow>& shownWindow()
 
 int showInWindow(QString text)
 {
+    const QString message = std::move(text);
     if (GalleryWindow* window = shownWindow())
-        window->showMessage(text);
+        window->showMessage(message);
     return 0;
 }
 
@@ -72,8 +75,10 @@ GalleryWindow::GalleryWindow(Languages& languages)
     showLanguage();
 }
 
+// An input that loses the focus tells the window, which is whole only here.
 GalleryWindow::~GalleryWindow()
 {
+    hide();
     g_warningMessage = nullptr;
 }
 

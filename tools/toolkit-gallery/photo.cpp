@@ -8,7 +8,6 @@
 #include <QEvent>
 #include <QPainter>
 #include <QPointer>
-#include <QTimer>
 
 namespace {
 
@@ -37,11 +36,11 @@ void Photo::takeLater()
         return;
     m_bWanted = true;
     waitingPhotos().append(this);
-    QTimer::singleShot(0, this, &Photo::takeWaiting);
+    QMetaObject::invokeMethod(this, &Photo::takeWaiting, Qt::QueuedConnection);
 }
 
-// A pose lets events happen, among them the timers of the other photographs; there is one focus,
-// and so one stage at a time.
+// A pose lets events happen, among them those that the other photographs wait for; there is one
+// focus, and so one stage at a time.
 void Photo::takeWaiting()
 {
     static bool busy = false;
