@@ -37,6 +37,8 @@ CComboBox::CComboBox(QWidget* parent)
 {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setFocusPolicy(Qt::ClickFocus);
+    // The row of a form gives the width, not the longest text of a list or of the language before.
+    setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     setFont(Look::textFont());
     // The height of the list's items, which the default delegate of a combo box does not honour.
     setItemDelegate(new QStyledItemDelegate(this));

@@ -28,6 +28,8 @@ CHorizontalSlider::CHorizontalSlider(QWidget* parent, int minimum, int maximum, 
     m_pSlider->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_pNoticeLbl->setFont(Look::textFont());
     m_pNoticeLbl->setAlignment(Qt::AlignCenter);
+    m_pNoticeLbl->setStyleSheet(QStringLiteral("QLabel{color:%1;}QLabel:disabled{color:%2;}")
+                                    .arg(Look::White, Look::DisabledGrey));
 
     m_pLayout->setContentsMargins(0, 0, 0, 0);
     m_pLayout->addWidget(m_pSlider);

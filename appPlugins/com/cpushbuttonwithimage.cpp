@@ -9,6 +9,7 @@
 #include <QAction>
 #include <QEvent>
 #include <QLabel>
+#include <QPainter>
 #include <QVBoxLayout>
 
 namespace appPlugins {
@@ -27,6 +28,7 @@ CPushButtonWithImage::CPushButtonWithImage(const char* textId, const char* iconP
     , m_iconPath(iconPath)
 {
     setFont(Look::textFont());
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setStyleSheet(m_selfStyleSheet);
 
     // The picture is a label of its own: a push button would put it beside its text.
@@ -52,6 +54,24 @@ CPushButtonWithImage::CPushButtonWithImage(const char* textId, const char* iconP
 CPushButtonWithImage::~CPushButtonWithImage()
 {
     delete m_pIcon;
+}
+
+QSize CPushButtonWithImage::sizeHint() const
+{
+    return layout()->sizeHint();
+}
+
+// The frame of the toolkit's other inputs; a push button's own would have the desktop's colours.
+void CPushButtonWithImage::paintEvent(QPaintEvent* event)
+{
+    Q_UNUSED(event)
+    const QColor white(255, 255, 255);
+    const QColor grey(146, 146, 146);
+    const QColor blue(52, 120, 247);
+    const QColor frame = !isEnabled() ? grey : hasFocus() || isDown() ? blue : white;
+    QPainter painter(this);
+    painter.fillRect(rect(), frame);
+    painter.fillRect(rect().adjusted(2, 2, -2, -2), isDown() ? blue : QColor(0x1e, 0x1e, 0x1e));
 }
 
 void CPushButtonWithImage::setText(const char* textId)

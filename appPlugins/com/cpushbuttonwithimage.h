@@ -27,8 +27,11 @@ public:
     void setText(const char* textId);
     void setDisabled(bool disable);
 
+    QSize sizeHint() const override;
+
 protected:
     void changeEvent(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void retranslate();

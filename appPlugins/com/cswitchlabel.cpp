@@ -9,9 +9,36 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QPainter>
 #include <QPushButton>
+#include <QStyle>
 
 namespace appPlugins {
+
+namespace {
+
+/// A title that is too long for its place loses its end, and not the beginning that an alignment to
+/// the right would cut off.
+class ElidingLabel : public QLabel
+{
+public:
+    using QLabel::QLabel;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        const QRect place = contentsRect();
+        if (fontMetrics().horizontalAdvance(text()) <= place.width())
+            return QLabel::paintEvent(event);
+
+        QPainter painter(this);
+        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, place.width());
+        style()->drawItemText(&painter, place, alignment(), palette(), isEnabled(), shown,
+                              foregroundRole());
+    }
+};
+
+} // namespace
 
 const QString CSwitchLabel::m_selfStyleSheet_normalLabel =
     QStringLiteral("QLabel{color:%1;}QLabel:disabled{color:%3;}")
@@ -44,7 +71,9 @@ CSwitchLabel::CSwitchLabel(const char* textStrId, QWidget* parent, bool checkabl
 
 QWidget* CSwitchLabel::createNormalLabel()
 {
-    m_normalLabel = new QLabel(this);
+    m_normalLabel = new ElidingLabel(this);
+    // Below a style sheet the font of this label would not reach it.
+    m_normalLabel->setFont(font());
     m_normalLabel->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_normalLabel->setStyleSheet(m_selfStyleSheet_normalLabel);
     return m_normalLabel;
@@ -53,6 +82,7 @@ QWidget* CSwitchLabel::createNormalLabel()
 QWidget* CSwitchLabel::createCheckableLabel()
 {
     m_checkabledLabel = new QPushButton(this);
+    m_checkabledLabel->setFont(font());
     m_checkabledLabel->setAttribute(Qt::WA_TranslucentBackground);
     m_checkabledLabel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_checkabledLabel->setFocusPolicy(Qt::NoFocus);

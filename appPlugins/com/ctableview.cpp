@@ -116,8 +116,10 @@ void CTableView::initCorner()
     m_pCorner = new QLabel(QStringLiteral("Index"), this);
     m_pCorner->setAlignment(Qt::AlignCenter);
     m_pCorner->setFont(Look::textFont());
-    m_pCorner->setStyleSheet(
-        QStringLiteral("QLabel{background:#2E2E2E;color:%1;}").arg(Look::White));
+    m_pCorner->setStyleSheet(QStringLiteral("QLabel{background:#2E2E2E;color:%1;border:none;"
+                                            "border-right:1px solid rgb(96,96,96);"
+                                            "border-bottom:1px solid rgb(96,96,96);}")
+                                 .arg(Look::White));
     m_pCorner->setGeometry(0, 0, IndexColumnWidth, HeaderHeight);
 }
 

@@ -73,6 +73,22 @@ void CUnit::setToBase()
     setUnitIndex(m_baseIndex);
 }
 
+// As much as the digits ask for: a hint that is lower would cut the field's colour off above the
+// prefix, which stands at the bottom of the row.
+QSize CUnit::sizeHint() const
+{
+    const int digitsHeight = 192;
+    return {QLabel::sizeHint().width(), digitsHeight};
+}
+
+// The text stands at the bottom of what the margin leaves: on the line of the digits, which are in
+// the middle of theirs.
+void CUnit::resizeEvent(QResizeEvent* event)
+{
+    QLabel::resizeEvent(event);
+    setContentsMargins(0, 0, 0, qMax(0, (height() - fontMetrics().height()) / 2));
+}
+
 void CUnit::setBDisguiseFocus(bool disguise)
 {
     if (disguise == m_bDisguiseFocus)

@@ -37,6 +37,9 @@ public:
     /// Shows the prefix of a value of zero.
     virtual void setToBase();
 
+    /// As tall as it is let: digits and prefix are one field.
+    QSize sizeHint() const override;
+
     int unitIndex() const { return m_unitIndex; }
     int baseIndex() const { return m_baseIndex; }
     int unitCounts() const { return m_nUnitCounts; }
@@ -75,6 +78,7 @@ protected:
     void selectByKey(QKeyEvent* event, const KeyMap& keys);
 
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
     void confirm(int index);
