@@ -12,7 +12,7 @@
 
 // Qt 5.15's JSON parser leaks the values of members that a document names twice; everything behind
 // it is checked for leaks by the unit tests.
-extern "C" const char* __asan_default_options()
+extern "C" Q_DECL_EXPORT const char* __asan_default_options()
 {
     return "detect_leaks=0";
 }
