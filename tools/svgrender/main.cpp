@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
 // SPDX-License-Identifier: MIT
 
+#include <QColor>
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QImage>
@@ -31,6 +32,14 @@ QImage render(QSvgRenderer& source, double scale)
     return image;
 }
 
+/// One colour instead of the picture's own, with their opacity: a disabled form of an icon.
+void recolour(QImage& image, const QColor& ink)
+{
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
+    painter.fillRect(image.rect(), ink);
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -44,6 +53,10 @@ int main(int argc, char** argv)
                                    QStringLiteral("Pixels of the result for each of the source."),
                                    QStringLiteral("factor"), QStringLiteral("1"));
     parser.addOption(scale);
+    const QCommandLineOption ink(QStringLiteral("ink"),
+                                 QStringLiteral("Colour to draw everything in, such as #3f3f3f."),
+                                 QStringLiteral("colour"));
+    parser.addOption(ink);
     parser.addPositionalArgument(QStringLiteral("source"), QStringLiteral("The SVG file."));
     parser.addPositionalArgument(QStringLiteral("target"), QStringLiteral("The PNG file."));
     parser.process(application);
@@ -55,7 +68,13 @@ int main(int argc, char** argv)
     QSvgRenderer source(files.at(0));
     if (!source.isValid() || source.defaultSize().isEmpty())
         return fail(files.at(0) + QStringLiteral(": not an SVG picture with a size"));
-    if (!render(source, factor).save(files.at(1), "PNG"))
+    const QColor inkColour(parser.value(ink));
+    if (parser.isSet(ink) && !inkColour.isValid())
+        return fail(parser.value(ink) + QStringLiteral(": not a colour"));
+    QImage image = render(source, factor);
+    if (inkColour.isValid())
+        recolour(image, inkColour);
+    if (!image.save(files.at(1), "PNG"))
         return fail(files.at(1) + QStringLiteral(": cannot be written"));
     return 0;
 }
