@@ -5,6 +5,9 @@
 
 #include <QtGlobal>
 
+/// @file
+/// Numbers and kinds of quantities.
+
 /// Unsigned 16-bit integer; indices of choice components travel as this type.
 using Uint16 = quint16;
 

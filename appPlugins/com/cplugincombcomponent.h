@@ -3,7 +3,9 @@
 
 #pragma once
 
+/// @file
 /// The family of parameter components in one door.
+
 #include "cplugincombcomponentbase.h"
 #include "plaincombcomponents.h"
 #include "realcombcomponent.h"

@@ -7,6 +7,9 @@
 
 #include <QJsonObject>
 
+/// @file
+/// Setups as JSON files (RFC 8259).
+
 /// Reads the JSON setup file @p fileName (UTF-8 path). True, with @p jsonObj replaced, when the
 /// file holds a non-empty JSON object; otherwise false, with @p jsonObj untouched. Nothing is
 /// logged.

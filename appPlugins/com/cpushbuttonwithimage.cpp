@@ -3,6 +3,7 @@
 
 #include "cpushbuttonwithimage.h"
 
+#include "elidingtext.h"
 #include "toolkitlook.h"
 #include "translated.h"
 
@@ -22,7 +23,7 @@ CPushButtonWithImage::CPushButtonWithImage(const char* textId, const char* iconP
                                            QWidget* parent)
     : QPushButton(parent)
     , m_actionOpen(new QAction(this))
-    , m_pTitle(new QLabel(this))
+    , m_pTitle(new ElidingLabel(this))
     , m_pIcon(new QIcon(QString::fromUtf8(iconPath)))
     , m_textId(textId)
     , m_iconPath(iconPath)

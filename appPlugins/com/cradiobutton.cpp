@@ -3,6 +3,8 @@
 
 #include "cradiobutton.h"
 
+#include "elidingtext.h"
+#include "faint.h"
 #include "slideoff.h"
 #include "toolkitlook.h"
 #include "translated.h"
@@ -13,6 +15,43 @@
 #include <QPushButton>
 
 namespace appPlugins {
+
+namespace {
+
+// The style sheet has neither a disabled look for the buttons nor a face for the one that is not
+// checked, through which the glow of the focus would make it as blue as the checked one.
+class HalfButton : public ElidingButton
+{
+public:
+    using ElidingButton::ElidingButton;
+
+protected:
+    void paintEvent(QPaintEvent*) override
+    {
+        const auto draw = [this](QStylePainter& painter) {
+            painter.drawControl(QStyle::CE_PushButton, shownOption());
+        };
+        if (!isEnabled())
+            return drawFaint(this, draw);
+
+        QStylePainter painter(this);
+        if (!isChecked() && pairGlows())
+            drawDarkFace(painter);
+        draw(painter);
+    }
+
+private:
+    void drawDarkFace(QPainter& painter) const
+    {
+        const int edge = 5;
+        painter.fillRect(rect().adjusted(1, 1, -1, -1), Look::focusBlue());
+        painter.fillRect(rect().adjusted(edge, edge, -edge, -edge), QColor(Look::DarkBackground));
+    }
+
+    bool pairGlows() const { return parentWidget()->hasFocus() || parentWidget()->underMouse(); }
+};
+
+} // namespace
 
 const QString CRadioButton::m_selfStyleSheet =
     QStringLiteral(
@@ -62,7 +101,7 @@ CRadioButton::CRadioButton(QWidget* parent, const char* leftTextId, const char* 
 
 QPushButton* CRadioButton::createButton(const char* name, int index)
 {
-    auto* button = new QPushButton(this);
+    auto* button = new HalfButton(this);
     button->setObjectName(QLatin1String(name));
     button->setCheckable(true);
     button->setFocusPolicy(Qt::NoFocus);

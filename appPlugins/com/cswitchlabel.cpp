@@ -3,42 +3,16 @@
 
 #include "cswitchlabel.h"
 
+#include "elidingtext.h"
 #include "slideoff.h"
 #include "toolkitlook.h"
 #include "translated.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QPainter>
 #include <QPushButton>
-#include <QStyle>
 
 namespace appPlugins {
-
-namespace {
-
-/// A title that is too long for its place loses its end, and not the beginning that an alignment to
-/// the right would cut off.
-class ElidingLabel : public QLabel
-{
-public:
-    using QLabel::QLabel;
-
-protected:
-    void paintEvent(QPaintEvent* event) override
-    {
-        const QRect place = contentsRect();
-        if (fontMetrics().horizontalAdvance(text()) <= place.width())
-            return QLabel::paintEvent(event);
-
-        QPainter painter(this);
-        const QString shown = fontMetrics().elidedText(text(), Qt::ElideRight, place.width());
-        style()->drawItemText(&painter, place, alignment(), palette(), isEnabled(), shown,
-                              foregroundRole());
-    }
-};
-
-} // namespace
 
 const QString CSwitchLabel::m_selfStyleSheet_normalLabel =
     QStringLiteral("QLabel{color:%1;}QLabel:disabled{color:%3;}")
@@ -81,7 +55,7 @@ QWidget* CSwitchLabel::createNormalLabel()
 
 QWidget* CSwitchLabel::createCheckableLabel()
 {
-    m_checkabledLabel = new QPushButton(this);
+    m_checkabledLabel = new ElidingButton(this);
     m_checkabledLabel->setFont(font());
     m_checkabledLabel->setAttribute(Qt::WA_TranslucentBackground);
     m_checkabledLabel->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

@@ -29,7 +29,9 @@ Q_SIGNALS:
     void sgnQLabelClicked();
 
 protected:
+    /// Lets the title not be clicked by a finger that slides off it.
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /// Shows the text in the new language.
     void changeEvent(QEvent* event) override;
 
 private:

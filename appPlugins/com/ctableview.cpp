@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
 // SPDX-License-Identifier: MIT
 
-#include "ctableview.h"
+#include "ctableviewbase.h"
 
 #include "tabledelegates.h"
 #include "toolkitlook.h"
@@ -56,6 +56,15 @@ QString scrollBarStyleSheet()
         .arg(Look::White, QString::number(4));
 }
 
+/// A header of a fixed size, which nobody has to find out from the texts of all its sections.
+class FixedHeader : public QHeaderView
+{
+public:
+    using QHeaderView::QHeaderView;
+
+    QSize sizeHint() const override { return minimumSize(); }
+};
+
 bool inHeaderBand(const QPoint& point)
 {
     return point.y() <= HeaderHeight;
@@ -67,8 +76,8 @@ CTableView::CTableView(QWidget* parent, const int& tableColumnCount)
     : QTableView(parent)
     , m_nTableColumnCount(tableColumnCount)
 {
-    initModel();
     initView();
+    initModel();
 }
 
 void CTableView::initModel()
@@ -79,6 +88,9 @@ void CTableView::initModel()
 
 void CTableView::initView()
 {
+    // Before the style sheet, which would be applied to those that they replace.
+    setVerticalHeader(new FixedHeader(Qt::Vertical, this));
+    setHorizontalHeader(new FixedHeader(Qt::Horizontal, this));
     setFocusPolicy(Qt::NoFocus);
     setCornerButtonEnabled(false);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

@@ -3,6 +3,9 @@
 
 #pragma once
 
+/// @file
+/// The keys of the instrument's front panel.
+
 /// Key codes that the instrument's front panel delivers as key events beside the ordinary keys.
 /// Knob rotation arrives as Up (clockwise) and Down (counter-clockwise) key presses.
 enum ENUM_FRONT_PANEL_KEY_VALUE {
@@ -15,8 +18,8 @@ enum ENUM_FRONT_PANEL_KEY_VALUE {
     QT_KEY_MANUAL = 731,  ///< manual trigger
     QT_KEY_KNOB = 732,    ///< knob pressed
     QT_KEY_X1 = 734,      ///< base unit
-    QT_KEY_HOME = 735,
-    QT_KEY_BACK = 736,
-    QT_KEY_MINUS = 737,
-    QT_KEY_HELP = 738
+    QT_KEY_HOME = 735,    ///< home screen
+    QT_KEY_BACK = 736,    ///< one screen back
+    QT_KEY_MINUS = 737,   ///< sign of a number
+    QT_KEY_HELP = 738     ///< help page
 };

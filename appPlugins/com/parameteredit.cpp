@@ -159,8 +159,9 @@ int ParameterTextWithOrderOfMagnitude::chooseUnit(ShownNumber shown) const
 
 void ParameterTextWithOrderOfMagnitude::showInUnit(int index)
 {
+    const double times = m_pUnitLabel->timesOf(index);
+    m_pParameterText->updateText(m_valueLL, shownDecimals(m_paramResolution, times));
     m_pUnitLabel->setUnitIndex(index);
-    m_pParameterText->updateText(m_valueLL, decimals());
 }
 
 void ParameterTextWithOrderOfMagnitude::initialize()
@@ -192,7 +193,8 @@ void ParameterTextWithOrderOfMagnitude::normalize()
 void ParameterTextWithOrderOfMagnitude::takeTypedText()
 {
     QString typed = m_pParameterText->toPlainText();
-    typed.remove(QRegularExpression(QStringLiteral("\\s")));
+    static const QRegularExpression space(QStringLiteral("\\s"));
+    typed.remove(space);
     m_valueLL = typedSteps(typed, decimals(), m_valueLL);
 }
 

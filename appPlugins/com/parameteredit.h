@@ -20,22 +20,28 @@ namespace appPlugins {
 /// editor has the focus, and the state of typing.
 ///
 /// Keys that it does not use are posted to the nearest dialog above it, so that front-panel keys
-/// reach the plug-in's window. A disabled editor receives no keys.
+/// reach the plug-in's window. Digits come from keys alone: nothing can be pasted or dropped, and
+/// the text of an input method is taken as keys. A disabled editor receives none.
+///
+/// It is a part of ParameterTextWithOrderOfMagnitude, which holds the value; a form uses that.
 class APPPLUGINS_EXPORT ParameterTextEdit : public QTextEdit
 {
     Q_OBJECT
 
 public:
+    /// Empty until updateText().
     explicit ParameterTextEdit(QWidget* parent);
 
-    /// Shows @p value (resolution steps) with @p precision decimals; a negative precision shows
-    /// that many zeros behind the steps.
+    /// Shows @p value (resolution steps) with @p precision decimals and at least one digit before
+    /// them; a negative precision shows that many zeros behind the steps. The cursor keeps its
+    /// distance from the right end, or goes to the first digit after a change of prefix and after a
+    /// value that a program set without the focus.
     void updateText(long long value, int precision);
 
-    /// The text last shown.
+    /// The value's text as last shown, not what is being typed.
     QString lastText() const { return m_strLastText; }
 
-    /// Power of ten of the cursor digit relative to the point: 0 for the units, -1 for the first
+    /// Power of ten of the cursor digit in the number on show: 0 for the units, -1 for the first
     /// decimal.
     int cursorPower() const { return m_currentCursorPower; }
 
@@ -54,15 +60,18 @@ public:
 
     /// Adds or takes away the sign of what is being typed.
     void signClicked();
-    /// Inserts the point of @p e unless there is one.
+    /// Inserts a point unless there is one.
     void pointClicked(QKeyEvent* e);
-    /// Moves the cursor one digit to the left, growing the integer part at its edge.
+    /// Moves the cursor one digit to the left; on the first digit puts a zero in front of it.
     void leftArrowClicked(QKeyEvent* e);
-    /// Moves the cursor one digit to the right, taking a grown leading zero away first.
+    /// Moves the cursor one digit to the right; on a first digit that is a needless zero takes that
+    /// away instead.
     void rightArrowClicked(QKeyEvent* e);
-    /// Shows a value below one three decimals smaller, without its leading zeros.
+    /// Takes zeros away from the text of a value below one: the three behind the point of
+    /// "0.000...", "0." otherwise. @p specialDealwith goes into the log alone.
     void rightArrowClicked(QKeyEvent* e, bool specialDealwith);
 
+    /// Disables or enables the digits. Disabled ones are grey and take no keys.
     void setDisable(bool disable);
 
 public Q_SLOTS:
@@ -70,12 +79,21 @@ public Q_SLOTS:
     void cursorPositionChangedSlots();
 
 protected:
+    /// Edits with digits, point, sign (where there are negative values), Backspace, Delete and the
+    /// arrows; posts any other key but Enter to the nearest dialog.
     void keyPressEvent(QKeyEvent* event) override;
+    /// Enter gives the focus to the nearest dialog, unless another input has it already; releases
+    /// of editing keys end here, others are posted to the dialog.
     void keyReleaseEvent(QKeyEvent* event) override;
+    /// Underlines the cursor digit.
     void focusInEvent(QFocusEvent* event) override;
+    /// Takes the underline away.
     void focusOutEvent(QFocusEvent* event) override;
+    /// Keeps the line in the middle.
     void resizeEvent(QResizeEvent* event) override;
+    /// Takes nothing.
     void insertFromMimeData(const QMimeData* source) override;
+    /// Takes the digits, points and signs of a committed text as key presses.
     void inputMethodEvent(QInputMethodEvent* event) override;
 
 private:
@@ -88,6 +106,7 @@ private:
     void followShownText();
     int digitPosition(int position) const;
     void underline(int position, bool underlined);
+    bool underlinesOnly(int position) const;
     void repostToDialog(QKeyEvent* event);
     void leaveToDialog();
 
@@ -109,6 +128,12 @@ private:
 /// knob. The value is a whole number of resolution steps, so that no floating-point rounding
 /// reaches the digits. It knows no limits: they belong to the component that owns it.
 ///
+/// The prefix is the largest that leaves one to three digits before the point. Typing begins with a
+/// digit, sign, point, Backspace or Delete; a unit key, Return or the pressed knob confirms, Cancel
+/// or the loss of the focus drops what is typed. Typed digits finer than a step are cut off. A
+/// detent of the knob changes the digit under the cursor by one; Left and Right move the cursor
+/// and, at the edge of the three digits before the point, change the prefix.
+///
 /// parameterChanged() is for changes that the user made. A value set by program while the digits
 /// have no focus is shown silently.
 class APPPLUGINS_EXPORT ParameterTextWithOrderOfMagnitude : public QLabel
@@ -116,22 +141,26 @@ class APPPLUGINS_EXPORT ParameterTextWithOrderOfMagnitude : public QLabel
     Q_OBJECT
 
 public:
-    /// @p defaultValue and @p resolution are in the base unit of @p unitType; the resolution is a
-    /// power of ten. Negative values are taken for UNIT_VOLTAGE alone.
+    /// @p defaultValue and @p resolution are in the base unit of @p unitType, which chooses the
+    /// prefixes; the value starts at the nearest step, the resolution is a power of ten. A sign can
+    /// be typed for UNIT_VOLTAGE alone.
     ParameterTextWithOrderOfMagnitude(QWidget* parent, double defaultValue, ENUM_UNIT_TYPE unitType,
                                       double resolution);
 
-    /// Sets and shows the value, in resolution steps. A new value ends typing.
+    /// Sets and shows the value, in resolution steps; nothing for the current one. Ends typing and
+    /// emits valueChanged(); with the focus in the digits of an enabled editor parameterChanged(),
+    /// too.
     void setValue(long long value);
-    /// Resolution steps.
+    /// The value in resolution steps, without what is being typed.
     long long getValue() const { return m_valueLL; }
-    /// The text on show with its prefix: "1.000000m".
+    /// The value's text as last shown with its prefix: "1.000000m".
     QString getStringValue() const;
-    /// Characters of the digits on show.
+    /// Characters of the value's text as last shown, without the prefix.
     int getTextLength() const;
 
-    /// Base units of one step. Nothing is drawn again.
+    /// Base units of one step, a power of ten. Nothing is drawn again: the count of steps stays.
     void setResolution(double resolution) { m_paramResolution = resolution; }
+    /// Base units of one step.
     double getResolution() const { return m_paramResolution; }
 
     /// Disables or enables digits, prefix and the whole. A disabled editor takes no keys;
@@ -141,7 +170,9 @@ public:
     /// Chooses the prefix of the current value and shows it. Emits nothing.
     void initialize();
 
+    /// The digits.
     ParameterTextEdit* textEdit() const { return m_pParameterText; }
+    /// The prefix.
     CUnit* unitLabel() const { return m_pUnitLabel; }
 
     /// True from the first key of a new number to its commit or cancel.
@@ -152,32 +183,41 @@ public:
     /// nothing.
     void redraw();
 
-    /// Stretch of digits and prefix.
+    /// Shares of the width; 133 and 23 at first.
     void setDigitsLayout(int digits, int prefix);
 
 public Q_SLOTS:
-    /// Takes over what was typed when a unit key asks for it, then chooses the prefix and shows the
-    /// value.
+    /// Takes over what was typed when the unit selector asks for it, then chooses the prefix and
+    /// shows the value. A text that is no number leaves the value, one too long for 64 bits gives
+    /// the largest. Emits parameterChanged() for a new value of the user's.
     virtual void normalize();
 
 Q_SIGNALS:
-    /// The value was set.
+    /// setValue() or the knob gave another value.
     void valueChanged();
-    /// The user changed the value; in resolution steps.
+    /// The user changed the value; in resolution steps. Follows each detent of the knob and each
+    /// confirmed number that is another than before.
     void parameterChanged(long long value);
+    /// The digits got the focus.
     void sgn_editorFocusIn();
+    /// The digits lost the focus.
     void sgn_editorFocusOut();
 
 protected:
-    /// One detent: the cursor digit up by one.
+    /// One detent: the cursor digit up by one. Nothing with the cursor on the sign.
     virtual void knobRotateClockwise(QKeyEvent* e);
-    /// One detent: the cursor digit down by one.
+    /// One detent: the cursor digit down by one. Nothing with the cursor on the sign.
     virtual void knobRotateCouterClockwise(QKeyEvent* e);
-    /// Shows the value in the next larger (Left) or smaller (Right) prefix.
+    /// Shows the value in the next larger (Left) or smaller (Right) prefix. Beyond the largest
+    /// there is nothing, beyond the smallest the cursor goes one digit to the right.
     virtual void arrowChangeUnit(QKeyEvent* e);
 
+    /// Reports a focus of its own like that of the digits.
     bool event(QEvent* event) override;
+    /// Sees the keys of the digits first: begins, confirms and cancels typing, hands knob and edge
+    /// arrows over.
     bool eventFilter(QObject* watched, QEvent* event) override;
+    /// The keys that the digits hand over: knob, arrows, Cancel.
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

@@ -71,7 +71,9 @@ bool ParameterTextWithOrderOfMagnitude::event(QEvent* event)
 
 bool ParameterTextWithOrderOfMagnitude::eventFilter(QObject* watched, QEvent* event)
 {
-    if (watched != m_pParameterText)
+    // A key that was in the queue before the digits were disabled finds them disabled.
+    const bool key = event->type() == QEvent::KeyPress || event->type() == QEvent::KeyRelease;
+    if (watched != m_pParameterText || (key && !m_pParameterText->isEnabled()))
         return QLabel::eventFilter(watched, event);
 
     switch (event->type()) {

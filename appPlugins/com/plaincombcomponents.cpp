@@ -4,11 +4,13 @@
 #include "plaincombcomponents.h"
 
 #include "cswitchlabel.h"
+#include "elidingtext.h"
 #include "toolkitlook.h"
 #include "translated.h"
 
 #include <QEvent>
 #include <QLineEdit>
+#include <QPainter>
 #include <QPushButton>
 
 namespace appPlugins {
@@ -21,6 +23,26 @@ EmptyCombComponent::EmptyCombComponent(QWidget* parent, const char* titleStrId, 
     m_pPlaceHolder->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     addInput(m_pPlaceHolder, 172, 156, 32);
 }
+
+namespace {
+
+// The frame that the style sheet gives a focused text is thin and dark, and its background is
+// transparent: the blue field of a focused number shines through.
+class BlueFocusLine : public QLineEdit
+{
+public:
+    using QLineEdit::QLineEdit;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        if (hasFocus())
+            QPainter(this).fillRect(rect(), Look::focusBlue());
+        QLineEdit::paintEvent(event);
+    }
+};
+
+} // namespace
 
 const QString StringCombComponent::sm_strQLineEditStyleSheet =
     QStringLiteral(
@@ -38,11 +60,13 @@ StringCombComponent::StringCombComponent(QWidget* parent, const char* titleStrId
                                          bool titleCheckable, const char* unitStrId,
                                          const QRegExp& rx)
     : CPluginCombComponentBase(parent, titleStrId, titleCheckable, unitStrId)
-    , m_pParamLineEdit(new QLineEdit(this))
+    , m_pParamLineEdit(new BlueFocusLine(this))
     , m_rx(rx)
 {
     m_pParamLineEdit->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     m_pParamLineEdit->setFont(Look::textFont());
+    // In line with the digits of the numbers above and below.
+    m_pParamLineEdit->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     m_pParamLineEdit->setStyleSheet(sm_strQLineEditStyleSheet);
     setFocusProxy(m_pParamLineEdit);
     connect(m_pParamLineEdit, &QLineEdit::editingFinished, this,
@@ -87,6 +111,32 @@ bool DummyAction()
     return true;
 }
 
+namespace {
+
+// The sheet has one picture for what is focused, pressed and disabled; faint, it tells the last.
+class ActionButton : public ElidingButton
+{
+public:
+    using ElidingButton::ElidingButton;
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        if (isEnabled())
+            return ElidingButton::paintEvent(event);
+
+        const qreal faint = 0.3;
+        const QStyleOptionButton option = shownOption();
+        QStylePainter painter(this);
+        painter.setOpacity(faint);
+        painter.drawControl(QStyle::CE_PushButtonBevel, option);
+        painter.setOpacity(1);
+        painter.drawControl(QStyle::CE_PushButtonLabel, option);
+    }
+};
+
+} // namespace
+
 const QString ActionCombComponent::sm_selfStyleSheet =
     QStringLiteral("QPushButton{border-image:url(%5appPluginsPics/R_button_n.png);color:%1; }"
                    "QPushButton:focus{border-image:url(%5appPluginsPics/"
@@ -102,7 +152,7 @@ ActionCombComponent::ActionCombComponent(QWidget* parent, const char* titleStrId
                                          const char* buttonTextId, std::function<bool()> action)
     : CPluginCombComponentBase(parent, titleStrId, titleCheckable, unitStrId)
     , actionFunction(std::move(action))
-    , m_pActionButton(new QPushButton(translated(buttonTextId), this))
+    , m_pActionButton(new ActionButton(translated(buttonTextId), this))
     , m_buttonTextId(buttonTextId)
 {
     m_pActionButton->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);

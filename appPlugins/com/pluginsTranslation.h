@@ -5,6 +5,7 @@
 
 #include "appplugins_export.h"
 
+/// @file
 /// String identifiers: the names of all texts that a user sees.
 ///
 /// For each identifier there is one process-wide variable, named TR_ and the identifier. It holds
@@ -84,6 +85,7 @@
     X(ARBID_INVERT, STR_ID_INVERT)                                                                 \
     X(ARBID_EXIT, STR_ID_HELP_EXIT)
 
+/// @cond
 #define APPPLUGINS_DECLARE_IDENTIFIER(identifier)                                                  \
     APPPLUGINS_EXPORT extern const char* TR_##identifier;
 #define APPPLUGINS_DECLARE_ALIAS(alias, target) APPPLUGINS_EXPORT extern const char* TR_##alias;
@@ -91,3 +93,4 @@ APPPLUGINS_IDENTIFIERS(APPPLUGINS_DECLARE_IDENTIFIER)
 APPPLUGINS_IDENTIFIER_ALIASES(APPPLUGINS_DECLARE_ALIAS)
 #undef APPPLUGINS_DECLARE_ALIAS
 #undef APPPLUGINS_DECLARE_IDENTIFIER
+/// @endcond

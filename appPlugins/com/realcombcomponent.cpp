@@ -133,7 +133,8 @@ void RealCombComponent::setMaxMinValue(double limit, double otherLimit)
 
 bool RealCombComponent::set(double value)
 {
-    if (!isAvailable())
+    // What is no number has no digits and passes every limit.
+    if (!isAvailable() || std::isnan(value))
         return false;
 
     const double rounded = round(value);
@@ -224,7 +225,7 @@ void TabelRealCombComponent::setCombComponentsHorLayout(int title, int input, in
 
 bool TabelRealCombComponent::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type() == QEvent::KeyPress) {
+    if (event->type() == QEvent::KeyPress && isEnabled()) {
         m_pParamTextEdit->takeHandedOverKeys();
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (m_bKnobRotating && (key == QT_KEY_KNOB || key == Qt::Key_Return)) {

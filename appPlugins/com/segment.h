@@ -17,21 +17,22 @@ using SEGID = qint32;
 /// One stretch of the sample memory. Addresses and lengths count samples.
 struct SegmentObject
 {
+    /// @p len samples from sample @p start on.
     SegmentObject(Uint32 start, Uint32 len, SEGID id)
         : startAddress(start)
         , length(len)
         , ID(id)
     {}
 
-    Uint32 startAddress;
-    Uint32 length;
-    SEGID ID;
+    Uint32 startAddress; ///< first sample
+    Uint32 length;       ///< samples
+    SEGID ID;            ///< 0 to 15 for a used segment; means nothing for a free stretch
 };
 
 /// Hands out up to 16 numbered segments of one linear sample memory, so that several waveforms
-/// share one buffer. First fit; freed neighbours are merged; defrag(data) compacts. The buffer
-/// itself is the caller's. Trouble is printed on standard output; nothing throws. One thread at a
-/// time.
+/// share one buffer. First fit, with freed neighbours merged (Knuth, The Art of Computer
+/// Programming, volume 1, section 2.5); defrag(data) compacts. The buffer itself is the caller's.
+/// Trouble is printed on standard output; nothing throws. One thread at a time.
 class APPPLUGINS_EXPORT SegmentManager
 {
 public:
@@ -43,7 +44,7 @@ public:
     SEGID malloc(Uint32 len);
 
     /// Gives a segment back and its identifier to the end of the queue. An identifier out of range
-    /// or not in use is ignored.
+    /// or not in use is ignored. A segment of no samples stays listed as used.
     void free(SEGID id);
 
     /// Cuts a used segment down to its first @p len samples; a longer @p len changes nothing.
@@ -65,9 +66,11 @@ public:
     Uint32 getLength(SEGID id) const;
     /// Sum of the free stretches' lengths.
     Uint32 getFreeSpace() const;
+    /// Number of free stretches.
     Uint32 getFreeSegNum() const;
+    /// Number of used segments.
     Uint32 getUsedSegNum() const;
-    /// Identifiers left in the queue.
+    /// Identifiers left in the queue, 16 at first.
     Uint32 getFreeIDNum() const;
 
     /// Prints the free and used segments and the number of free identifiers on standard output.

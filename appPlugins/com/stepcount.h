@@ -7,6 +7,7 @@
 
 #include <QString>
 
+/// @file
 /// Arithmetic on whole resolution steps: the truth of every numeric parameter.
 namespace appPlugins {
 
@@ -15,8 +16,9 @@ namespace appPlugins {
 /// bits saturates.
 APPPLUGINS_EXPORT long long stepCount(double value, double resolution);
 
-/// Decimals that a value at @p resolution shows in a prefix of the factor @p times; negative by the
-/// zeros that follow a count of steps in a prefix that is finer than the resolution.
+/// Decimals that a value at @p resolution shows in a prefix of the factor @p times, truncated
+/// toward zero: log10(1 / resolution) + log10(times). Negative by the zeros that follow a count of
+/// steps in a prefix that is finer than the resolution.
 APPPLUGINS_EXPORT int shownDecimals(double resolution, double times);
 
 /// @p value plus @p steps; saturates at the ends of 64 bits.

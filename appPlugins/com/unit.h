@@ -19,13 +19,15 @@ namespace appPlugins {
 /// Prefixes are ordered from the largest (index 0) to the smallest. A key press that is no unit key
 /// of the family is answered by a Cancel key press to the widget given at construction, which makes
 /// the editor discard what was typed. A disabled selector receives no keys.
+///
+/// A new family calls setPrefixes() in its constructor and selectByKey() in keyPressEvent().
 class APPPLUGINS_EXPORT CUnit : public QLabel
 {
     Q_OBJECT
     Q_PROPERTY(bool bDisguiseFocus READ getBDisguiseFocus WRITE setBDisguiseFocus)
 
 public:
-    /// "k" and the base unit.
+    /// "k" and the base unit: plain numbers. @p parent gets the Cancel.
     explicit CUnit(QWidget* parent);
 
     /// Text of the current prefix; empty for the base unit.
@@ -40,8 +42,11 @@ public:
     /// As tall as it is let: digits and prefix are one field.
     QSize sizeHint() const override;
 
+    /// Index of the prefix on show, 0 at first.
     int unitIndex() const { return m_unitIndex; }
+    /// Index of the prefix that shows a value of zero.
     int baseIndex() const { return m_baseIndex; }
+    /// Number of prefixes, 1 to 6.
     int unitCounts() const { return m_nUnitCounts; }
     /// Factor of the prefix with this index, 0 to unitCounts() - 1.
     double timesOf(int index) const { return m_unitPower[index]; }
@@ -49,6 +54,7 @@ public:
     /// Whether the label draws as focused, so that digits and prefix look like one field while the
     /// digit editor alone has the focus.
     bool getBDisguiseFocus() const { return m_bDisguiseFocus; }
+    /// Draws the label as focused or not, at once; it starts as not focused.
     void setBDisguiseFocus(bool disguise);
 
 Q_SIGNALS:
@@ -56,28 +62,32 @@ Q_SIGNALS:
     void unitSelected();
 
 protected:
+    /// One prefix of a family.
     struct Prefix
     {
-        const char* label;
-        double power;
+        const char* label; ///< text on show, in Latin-1; empty for the base unit
+        double power;      ///< factor relative to the base unit, greater than 0
     };
 
     /// Prefix index that each unit key selects; Cancels for a key that the family does not have.
     struct KeyMap
     {
-        int gn;
-        int mu;
-        int km;
-        int x1;
+        int gn; ///< QT_KEY_GN: giga or nano
+        int mu; ///< QT_KEY_MU: mega or micro
+        int km; ///< QT_KEY_KM: kilo or milli
+        int x1; ///< QT_KEY_X1: base unit
     };
-    static const int Cancels = -1;
+    static const int Cancels = -1; ///< no prefix: the key cancels what was typed
 
-    /// Replaces the prefixes (at most 6) and shows the first.
+    /// Replaces the prefixes (1 to 6, the largest first) and shows the first. @p baseIndex is the
+    /// one for a value of zero.
     void setPrefixes(std::initializer_list<Prefix> prefixes, int baseIndex);
     /// What a key press means to a family with these keys.
     void selectByKey(QKeyEvent* event, const KeyMap& keys);
 
+    /// QT_KEY_KM and QT_KEY_X1 are the unit keys.
     void keyPressEvent(QKeyEvent* event) override;
+    /// Keeps the prefix on the line of the digits.
     void resizeEvent(QResizeEvent* event) override;
 
 private:
@@ -103,9 +113,11 @@ class APPPLUGINS_EXPORT CFrequencyUnit : public CUnit
 {
     Q_OBJECT
 public:
+    /// @p parent gets the Cancel.
     explicit CFrequencyUnit(QWidget* parent);
 
 protected:
+    /// All four unit keys: giga, mega, kilo, base.
     void keyPressEvent(QKeyEvent* event) override;
 };
 
@@ -114,9 +126,11 @@ class APPPLUGINS_EXPORT CVoltUnit : public CUnit
 {
     Q_OBJECT
 public:
+    /// @p parent gets the Cancel.
     explicit CVoltUnit(QWidget* parent);
 
 protected:
+    /// QT_KEY_KM (milli) and QT_KEY_X1 are the unit keys.
     void keyPressEvent(QKeyEvent* event) override;
 };
 
@@ -125,9 +139,11 @@ class APPPLUGINS_EXPORT CTimeUnit : public CUnit
 {
     Q_OBJECT
 public:
+    /// @p parent gets the Cancel.
     explicit CTimeUnit(QWidget* parent);
 
 protected:
+    /// All four unit keys: nano, micro, milli, base.
     void keyPressEvent(QKeyEvent* event) override;
 };
 
@@ -136,9 +152,11 @@ class APPPLUGINS_EXPORT CPercentUnit : public CUnit
 {
     Q_OBJECT
 public:
+    /// @p parent gets the Cancel.
     explicit CPercentUnit(QWidget* parent);
 
 protected:
+    /// QT_KEY_X1 is the only unit key.
     void keyPressEvent(QKeyEvent* event) override;
 };
 
@@ -147,9 +165,11 @@ class APPPLUGINS_EXPORT CRateUnit : public CUnit
 {
     Q_OBJECT
 public:
+    /// @p parent gets the Cancel.
     explicit CRateUnit(QWidget* parent);
 
 protected:
+    /// QT_KEY_GN and QT_KEY_X1 both mean giga.
     void keyPressEvent(QKeyEvent* event) override;
 };
 
@@ -158,9 +178,11 @@ class APPPLUGINS_EXPORT CPhaseUnit : public CUnit
 {
     Q_OBJECT
 public:
+    /// @p parent gets the Cancel.
     explicit CPhaseUnit(QWidget* parent);
 
 protected:
+    /// QT_KEY_X1 is the only unit key.
     void keyPressEvent(QKeyEvent* event) override;
 };
 
@@ -169,9 +191,11 @@ class APPPLUGINS_EXPORT CPointUnit : public CUnit
 {
     Q_OBJECT
 public:
+    /// @p parent gets the Cancel.
     explicit CPointUnit(QWidget* parent);
 
 protected:
+    /// QT_KEY_MU (mega), QT_KEY_KM (kilo) and QT_KEY_X1 are the unit keys.
     void keyPressEvent(QKeyEvent* event) override;
 };
 

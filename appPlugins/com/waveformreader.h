@@ -15,10 +15,12 @@ namespace appPlugins {
 /// A waveform file held in memory.
 struct APPPLUGINS_EXPORT WaveformFile
 {
-    WaveformInfo header = {};
-    std::vector<qint16> samples; ///< header.points entries
+    WaveformInfo header = {}; ///< as it stands in the file
+    /// header.points entries; a file of the writer's has them from -32764 to 32764
+    std::vector<qint16> samples;
 
-    /// Voltage of a sample at the generator's output into its matched load.
+    /// Voltage of a sample at the generator's output into its matched load: header.offsetValue plus
+    /// sample / 32764 times half of header.ampValue.
     double volts(qint16 sample) const;
 };
 

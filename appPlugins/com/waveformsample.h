@@ -9,10 +9,10 @@
 
 namespace appPlugins {
 
-/// A normalised sample as the 16-bit word of the file: narrowed to single precision, times 8191
-/// times 4, truncated toward zero. A number that is not finite, as undefined levels leave it
-/// behind, gives 0; a conversion out of range would differ between processors. Defined for -65536 <
-/// sample < 65536.
+/// A normalised sample (-1 to 1) as the 16-bit word of the file: narrowed to single precision,
+/// times 8191 times 4, truncated toward zero. A number that is not finite, as undefined levels
+/// leave it behind, gives 0; a conversion out of range would differ between processors. Defined for
+/// -65536 < sample < 65536.
 inline quint16 sampleWord(double normalised)
 {
     const double scaled = static_cast<double>(static_cast<float>(normalised)) * 8191.0 * 4.0;

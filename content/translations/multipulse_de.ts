@@ -90,7 +90,7 @@
     <message id="ARBID_OPEN">
         <source>Open</source>
         <extracomment>Tool button, at most 88 pixels wide at a font size of 15 pixels.</extracomment>
-        <translation>Öffnen</translation>
+        <translation>Laden</translation>
     </message>
     <message id="ARBID_CLOSE">
         <source>Close</source>

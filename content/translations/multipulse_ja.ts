@@ -73,7 +73,7 @@
     </message>
     <message id="STR_ID_HI_Z">
         <source>High Z</source>
-        <translation>高インピーダンス</translation>
+        <translation>High Z</translation>
     </message>
     <message id="DBID_ON">
         <source>On</source>

@@ -21,10 +21,11 @@ using namespace appPlugins;
 namespace {
 
 /// A voltage from -10 to 10 V whose title names the state that it is shown in.
-Photo::Make voltage(const char* titleId)
+Photo::Make voltage(const char* titleId, bool checkable = false)
 {
-    return [titleId](QWidget* parent) {
-        return new RealCombComponent(parent, titleId, false, "V", UNIT_VOLTAGE, 2.5, 10, -10, 1e-4);
+    return [titleId, checkable](QWidget* parent) {
+        return new RealCombComponent(parent, titleId, checkable, "V", UNIT_VOLTAGE, 2.5, 10, -10,
+                                     1e-4);
     };
 }
 
@@ -37,7 +38,7 @@ ActionCombComponent* action(QWidget* parent, const char* titleId)
 ComboBoxCombComponent* load(QWidget* parent, const char* titleId)
 {
     static const char* ids[] = {TR_STR_ID_50, TR_STR_ID_HI_Z};
-    return new ComboBoxCombComponent(parent, titleId, false, nullptr, 0, 1, ids);
+    return new ComboBoxCombComponent(parent, titleId, false, nullptr, 1, 1, ids);
 }
 
 } // namespace
@@ -88,17 +89,14 @@ void ComponentsPage::addNumberStates()
     disabled->setDisable(true);
     addState(disabled);
     addState(voltage(GalleryText::LongTitle)(this));
+    addState(voltage(GalleryText::LongTitle, true)(this));
 }
 
 void ComponentsPage::addChoiceStates()
 {
-    ComboBoxCombComponent* disabled = load(this, GalleryText::Disabled);
-    disabled->setDisable(true);
-    addState(disabled);
-    addState(new Photo(
-        this, [](QWidget* parent) { return load(parent, GalleryText::Focused); },
-        [](Stage& stage, QWidget* widget) { stage.focus(widget); }));
-
+    ComboBoxCombComponent* choice = load(this, TR_STR_ID_STAT_LOAD);
+    addState(choice);
+    addInput(choice);
     ActionCombComponent* run = action(this, GalleryText::Live);
     connect(run, &CPluginCombComponentBase::triggered, this,
             [this] { Q_EMIT message(QStringLiteral("triggered()")); });

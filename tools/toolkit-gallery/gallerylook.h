@@ -22,7 +22,7 @@ const QLatin1String WindowStyle("QDialog#gallery{background:#1e1e1e;}");
 const QLatin1String CaptionStyle("QLabel{color:rgb(176,176,176);background:transparent;}");
 const QLatin1String MessageStyle("QLabel{color:%1;background:#262626;padding:0 8px;}");
 const QLatin1String MessageColour("rgb(255,196,0)");
-const QLatin1String HintColour("rgb(130,130,130)");
+const QLatin1String HintColour("rgb(160,160,160)");
 
 /// The text face of the instrument, as high as wanted in pixels.
 inline QFont font(int pixels, bool bold = false)

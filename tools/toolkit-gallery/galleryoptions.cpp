@@ -14,7 +14,7 @@ struct Switches
 {
     QCommandLineOption page{QStringLiteral("page"),
                             QStringLiteral("The page to begin with or to render: units, editor, "
-                                           "small, components or tables."),
+                                           "small, components, states or tables."),
                             QStringLiteral("name")};
     QCommandLineOption language{QStringLiteral("language"),
                                 QStringLiteral("The language to begin with or to render: en, de, "

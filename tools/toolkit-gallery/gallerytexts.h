@@ -10,6 +10,7 @@ const char* const Units = "GALLERY_UNITS";
 const char* const Editor = "GALLERY_EDITOR";
 const char* const Small = "GALLERY_SMALL";
 const char* const Components = "GALLERY_COMPONENTS";
+const char* const States = "GALLERY_STATES";
 const char* const Tables = "GALLERY_TABLES";
 
 const char* const Hint = "GALLERY_HINT";

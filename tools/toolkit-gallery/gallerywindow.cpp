@@ -12,6 +12,7 @@
 #include "keylegend.h"
 #include "languages.h"
 #include "smallpage.h"
+#include "statespage.h"
 #include "tabbutton.h"
 #include "tablespage.h"
 #include "translated.h"
@@ -84,8 +85,8 @@ GalleryWindow::~GalleryWindow()
 
 QStringList GalleryWindow::pageNames()
 {
-    return {QStringLiteral("units"), QStringLiteral("editor"), QStringLiteral("small"),
-            QStringLiteral("components"), QStringLiteral("tables")};
+    return {QStringLiteral("units"),      QStringLiteral("editor"), QStringLiteral("small"),
+            QStringLiteral("components"), QStringLiteral("states"), QStringLiteral("tables")};
 }
 
 void GalleryWindow::addPages()
@@ -95,6 +96,7 @@ void GalleryWindow::addPages()
     addPage(new EditorPage(this));
     addPage(new SmallPage(this));
     addPage(m_pComponents);
+    addPage(new StatesPage(this));
     addPage(new TablesPage(this));
 }
 
@@ -114,8 +116,8 @@ QWidget* GalleryWindow::createTabs()
     layout->setSpacing(0);
     int index = 0;
     for (const char* textId : {GalleryText::Units, GalleryText::Editor, GalleryText::Small,
-                               GalleryText::Components, GalleryText::Tables})
-        layout->addWidget(createTab(textId, index++), 1);
+                               GalleryText::Components, GalleryText::States, GalleryText::Tables})
+        layout->addWidget(createTab(textId, index++));
     m_pLanguageButton->setFixedWidth(LanguageButtonWidth);
     connect(m_pLanguageButton, &QPushButton::clicked, this, &GalleryWindow::nextLanguage);
     layout->addWidget(m_pLanguageButton);

@@ -141,7 +141,7 @@ CStackedComboComponents* stack(QWidget* parent, Uint16 index)
 {
     auto* pages = new CStackedComboComponents(parent);
     for (CPluginCombComponentBase* page : {emptyPage(pages), slopePage(pages), timerPage(pages)}) {
-        page->setCombComponentsHorLayout(130, 180, 20, 6);
+        page->setCombComponentsHorLayout(140, 170, 20, 6);
         pages->addWidget(page);
     }
     pages->setCurrentIndex(index);

@@ -15,9 +15,10 @@ TabButton::TabButton(const char* textId, QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     setFont(GalleryLook::font(15));
     setFixedHeight(GalleryLook::TabHeight);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     setStyleSheet(QStringLiteral(
         "QPushButton{color:rgb(176,176,176);background:#141414;border:none;"
-        "border-bottom:3px solid #141414;}"
+        "border-bottom:3px solid #141414;padding:0 10px;}"
         "QPushButton:pressed{background:#2e2e2e;}"
         "QPushButton:checked{color:white;border-bottom:3px solid rgb(52,120,247);}"));
     retranslate();

@@ -6,9 +6,12 @@
 #include "gallerylook.h"
 #include "unit.h"
 
+#include <QEvent>
+
 namespace {
 
 const int Width = 44;
+const int DigitsWidth = 14;
 
 } // namespace
 
@@ -20,4 +23,19 @@ UnitCell::UnitCell(appPlugins::CUnit* unit, QWidget* parent)
     setFixedSize(Width, GalleryLook::TouchHeight);
     unit->setParent(this);
     unit->setGeometry(rect());
+    unit->installEventFilter(this);
+}
+
+// The prefix stands where it would behind a digit, and not at the cell's edge.
+bool UnitCell::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() != QEvent::Resize)
+        return QWidget::eventFilter(watched, event);
+
+    watched->event(event);
+    auto* unit = static_cast<QWidget*>(watched);
+    QMargins margins = unit->contentsMargins();
+    margins.setLeft(DigitsWidth);
+    unit->setContentsMargins(margins);
+    return true;
 }

@@ -17,4 +17,7 @@ class UnitCell : public QWidget
 public:
     /// Takes @p unit over.
     UnitCell(appPlugins::CUnit* unit, QWidget* parent);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 };

@@ -23,6 +23,13 @@ enum Column {
     AnswerColumn
 };
 
+// An empty text would show neither colour: the first that is not, if there is one.
+void showPrefix(CUnit* unit)
+{
+    for (int index = 0; unit->getUnitString().isEmpty() && index < unit->unitCounts(); ++index)
+        unit->setUnitIndex(index);
+}
+
 template<typename Unit>
 CUnit* make(QWidget* parent)
 {
@@ -89,6 +96,7 @@ void UnitsPage::addPrefixes(int row, Make make)
 void UnitsPage::addState(int row, int column, Make make, bool focused, bool disabled)
 {
     CUnit* unit = make(this);
+    showPrefix(unit);
     unit->setBDisguiseFocus(focused);
     unit->setDisabled(disabled);
     m_pGrid->addWidget(new UnitCell(unit, this), row, column, Qt::AlignCenter);

@@ -21,6 +21,10 @@
         <source>Components</source>
         <translation>Parameter</translation>
     </message>
+    <message id="GALLERY_STATES">
+        <source>States</source>
+        <translation>Zustände</translation>
+    </message>
     <message id="GALLERY_TABLES">
         <source>Tables</source>
         <translation>Tabellen</translation>
@@ -62,8 +66,8 @@
         <translation>Offene Liste</translation>
     </message>
     <message id="GALLERY_OUT_OF_RANGE">
-        <source>Out of range</source>
-        <translation>Außer Bereich</translation>
+        <source>Out of range (12)</source>
+        <translation>Außer Bereich (12)</translation>
     </message>
     <message id="GALLERY_LONG_TITLE">
         <source>Delay after the second edge</source>

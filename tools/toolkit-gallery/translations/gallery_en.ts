@@ -21,6 +21,10 @@
         <source>Components</source>
         <translation>Components</translation>
     </message>
+    <message id="GALLERY_STATES">
+        <source>States</source>
+        <translation>States</translation>
+    </message>
     <message id="GALLERY_TABLES">
         <source>Tables</source>
         <translation>Tables</translation>
@@ -62,8 +66,8 @@
         <translation>Open list</translation>
     </message>
     <message id="GALLERY_OUT_OF_RANGE">
-        <source>Out of range</source>
-        <translation>Out of range</translation>
+        <source>Out of range (12)</source>
+        <translation>Out of range (12)</translation>
     </message>
     <message id="GALLERY_LONG_TITLE">
         <source>Delay after the second edge</source>

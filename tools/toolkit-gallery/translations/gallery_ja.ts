@@ -21,6 +21,10 @@
         <source>Components</source>
         <translation>パラメータ</translation>
     </message>
+    <message id="GALLERY_STATES">
+        <source>States</source>
+        <translation>状態</translation>
+    </message>
     <message id="GALLERY_TABLES">
         <source>Tables</source>
         <translation>表</translation>
@@ -62,8 +66,8 @@
         <translation>開いたリスト</translation>
     </message>
     <message id="GALLERY_OUT_OF_RANGE">
-        <source>Out of range</source>
-        <translation>範囲外</translation>
+        <source>Out of range (12)</source>
+        <translation>範囲外 (12)</translation>
     </message>
     <message id="GALLERY_LONG_TITLE">
         <source>Delay after the second edge</source>

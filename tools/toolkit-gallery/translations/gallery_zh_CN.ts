@@ -21,6 +21,10 @@
         <source>Components</source>
         <translation>参数组件</translation>
     </message>
+    <message id="GALLERY_STATES">
+        <source>States</source>
+        <translation>状态</translation>
+    </message>
     <message id="GALLERY_TABLES">
         <source>Tables</source>
         <translation>表格</translation>
@@ -62,8 +66,8 @@
         <translation>展开的列表</translation>
     </message>
     <message id="GALLERY_OUT_OF_RANGE">
-        <source>Out of range</source>
-        <translation>超出范围</translation>
+        <source>Out of range (12)</source>
+        <translation>超出范围 (12)</translation>
     </message>
     <message id="GALLERY_LONG_TITLE">
         <source>Delay after the second edge</source>
