@@ -14,8 +14,16 @@ bool InstrumentLink::connectToInstrument()
     return m_socket.waitForConnected(TimeoutMs);
 }
 
+// Where there is no connection, or none any more, the library would complain in the log.
+bool InstrumentLink::isConnected() const
+{
+    return m_socket.state() == QAbstractSocket::ConnectedState;
+}
+
 bool InstrumentLink::send(const QByteArray& command)
 {
+    if (!isConnected())
+        return false;
     m_socket.write(command);
     return m_socket.waitForBytesWritten(TimeoutMs);
 }
@@ -33,8 +41,9 @@ bool InstrumentLink::sendAll(const QVector<QByteArray>& commands, QByteArray& fa
 
 QByteArray InstrumentLink::waitForReply()
 {
-    m_socket.waitForReadyRead(TimeoutMs);
-    return m_socket.readAll();
+    if (isConnected())
+        m_socket.waitForReadyRead(TimeoutMs);
+    return m_socket.isOpen() ? m_socket.readAll() : QByteArray();
 }
 
 QByteArray InstrumentLink::confirm(const QByteArray& query)

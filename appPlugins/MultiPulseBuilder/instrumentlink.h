@@ -24,7 +24,8 @@ public:
     /// Connects for reading and writing. False when nobody answers; errorString() says why.
     bool connectToInstrument();
 
-    /// Sends @p command as it is and waits until it has left. False when it has not.
+    /// Sends @p command as it is and waits until it has left. False when it has not; at once, and
+    /// with nothing logged, where there is no connection.
     bool send(const QByteArray& command);
 
     /// Sends the commands in order up to the first that fails, which is left in @p failed
@@ -49,6 +50,8 @@ public:
     QString connectWarning() const;
 
 private:
+    bool isConnected() const;
+
     QHostAddress m_host;
     quint16 m_nPort;
     QTcpSocket m_socket;

@@ -4,14 +4,35 @@
 #include "multipulsebuilderplugin.h"
 
 #include "cpluginsfiles.h"
+#include "defaultsetup.h"
 #include "devicetable.h"
 #include "hostcallbacks.h"
+#include "multipulseeditor.h"
 
 #include <QDebug>
-
-QJsonObject g_jsonDefaultSetupValues;
+#include <QGlobalStatic>
+#include <QPointer>
 
 namespace {
+
+/// Owns the one editor. The host's parent widget may take it along before that.
+class EditorHolder
+{
+public:
+    ~EditorHolder() { delete m_editor; }
+
+    MultiPulseEditor* editor()
+    {
+        if (m_editor == nullptr)
+            m_editor = new MultiPulseEditor(nullptr);
+        return m_editor;
+    }
+
+private:
+    QPointer<MultiPulseEditor> m_editor;
+};
+
+Q_GLOBAL_STATIC(EditorHolder, g_MultiPulseEditor)
 
 template<typename Callback>
 void keepOrReplace(Callback& stored, Callback offered)
@@ -45,20 +66,30 @@ void MultiPulseBuilderPlugin::initCallbacks(STRUCT_SHARED_POINTERS sharedPointer
 int MultiPulseBuilderPlugin::show(int x, int y, int width, int height, QWidget* parent,
                                   GetIdCallback idcallback)
 {
-    Q_UNUSED(x)
-    Q_UNUSED(y)
-    Q_UNUSED(width)
-    Q_UNUSED(height)
-    Q_UNUSED(parent)
-
     idcallback();
     initDeviceList();
     loadSetupFile(DefaultSetupPath, g_jsonDefaultSetupValues);
     setCurrent(this);
+
+    MultiPulseEditor* editor = g_MultiPulseEditor->editor();
+    if (editor->parentWidget() == nullptr && parent != nullptr)
+        editor->setParent(parent);
+    editor->setGeometry(x, y, width, height);
+    return 0;
+}
+
+int MultiPulseBuilderPlugin::exec()
+{
+    return g_MultiPulseEditor->editor()->exec();
+}
+
+int MultiPulseBuilderPlugin::close()
+{
+    g_MultiPulseEditor->editor()->reject();
     return 0;
 }
 
 QWidget* MultiPulseBuilderPlugin::getWindow()
 {
-    return nullptr;
+    return g_MultiPulseEditor.isDestroyed() ? nullptr : g_MultiPulseEditor->editor();
 }

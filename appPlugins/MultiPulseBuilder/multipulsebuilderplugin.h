@@ -5,15 +5,7 @@
 
 #include "hostinterface/appinterface.h"
 
-#include <QJsonObject>
 #include <QObject>
-
-/// The default setup document, read again each time the host shows the plug-in. Empty until a
-/// default setup file has been read.
-extern QJsonObject g_jsonDefaultSetupValues;
-
-/// The shared default-setup file of all application plug-ins.
-const char DefaultSetupPath[] = "/mnt/user-data/appPluginsDefaultSetup.json";
 
 /// The one object that the host's plug-in loader obtains.
 class MultiPulseBuilderPlugin : public QObject, public CAppInterface
@@ -32,11 +24,18 @@ public:
     using CAppInterface::show;
 
     /// Invokes @p idcallback (an empty one throws std::bad_function_call), identifies the
-    /// instrument, reads the default setup and makes this plug-in the host's current one. Returns
-    /// 0.
+    /// instrument, reads the default setup and makes this plug-in the host's current one. Then it
+    /// readies the editor, hidden: in the middle of the screen with the given size, as a child of
+    /// the first @p parent that was ever passed. @p x and @p y are only logged. Returns 0.
     int show(int x, int y, int width, int height, QWidget* parent,
              GetIdCallback idcallback) override;
 
-    /// Null: there is no window.
+    /// Resets the instrument and runs the editor modally. Returns the dialog's result code.
+    int exec() override;
+
+    /// Rejects the editor. Returns 0.
+    int close() override;
+
+    /// The editor, made on first use; null once it went with the library or the process.
     QWidget* getWindow() override;
 };

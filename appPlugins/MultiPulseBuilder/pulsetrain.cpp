@@ -8,20 +8,15 @@
 #include "parametertable.h"
 #include "setupdocument.h"
 
-#include <QJsonArray>
-
 namespace {
 
-QVector<Pulse> readPulses(const QJsonArray& rows)
+QVector<Pulse> pulsesOf(const QVector<SetupRow>& rows)
 {
     QVector<Pulse> pulses;
     pulses.reserve(rows.size());
-    for (const QJsonValue& row : rows) {
-        const QJsonObject texts = row.toObject();
-        const QString width = texts.value(SetupKey::Width).toString();
-        const QString gap = texts.value(SetupKey::Gap).toString();
-        pulses.append({engineeringTextToDouble(width, PulseWidthRange.resolution),
-                       engineeringTextToDouble(gap, PulseGapRange.resolution)});
+    for (const SetupRow& row : rows) {
+        pulses.append({engineeringTextToDouble(row.width, PulseWidthRange.resolution),
+                       engineeringTextToDouble(row.gap, PulseGapRange.resolution)});
     }
     return pulses;
 }
@@ -54,7 +49,7 @@ PulseTrain PulseTrain::fromDocument(const QJsonObject& document, LoadImpedance l
                               TriggerDelayRange.resolution);
     train.leadingEdge = stored.value(SetupKey::PulseLeading).toDouble();
     train.trailingEdge = stored.value(SetupKey::PulseTrailing).toDouble();
-    train.pulses = readPulses(stored.value(SetupKey::WidthGap).toArray());
+    train.pulses = pulsesOf(rowsOf(document));
     train.amplitude = readRounded(voltage, SetupKey::Amplitude, LevelResolution);
     train.offset = readRounded(voltage, SetupKey::Offset, LevelResolution);
     train.load = load;

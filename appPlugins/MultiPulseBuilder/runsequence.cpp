@@ -20,6 +20,11 @@ QVector<QByteArray> triggerCommands(const PulseTrain& train)
 
 } // namespace
 
+QByteArray RunSequence::impedanceCommand(LoadImpedance load)
+{
+    return "OUTput1:IMPedance " + QByteArray::number(loadOhms(load)) + "\n";
+}
+
 QVector<QByteArray> RunSequence::runCommands(const PulseTrain& train)
 {
     const QByteArray frequency = QString::number(train.frequency(), 'g', 20).toUtf8();
@@ -35,7 +40,7 @@ QVector<QByteArray> RunSequence::runCommands(const PulseTrain& train)
         "source1:burst:ncycles 1 \n",
         // The trigger delay is part of the waveform's period; the instrument adds none of its own.
         "source1:burst:TDELay 0\n",
-        "OUTput1:IMPedance " + QByteArray::number(loadOhms(train.load)) + "\n",
+        impedanceCommand(train.load),
         "SOURce1:FREQuency:FIXed " + frequency + "\n",
     };
     commands += triggerCommands(train);

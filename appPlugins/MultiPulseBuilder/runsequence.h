@@ -21,6 +21,12 @@ const char Reset[] = "*RST\n";
 /// Ends every Run and Stop: its reply tells that the instrument has worked through the sequence.
 const char ClosingQuery[] = "*IDN? \n";
 
+/// Deletes the waveform file: a command for the shell.
+const char DeleteWaveform[] = "rm /mnt/user-data/run.mpwv";
+
+/// Tells the instrument what stands at its output.
+QByteArray impedanceCommand(LoadImpedance load);
+
 /// Everything that Run sends for a train, without the closing query.
 QVector<QByteArray> runCommands(const PulseTrain& train);
 

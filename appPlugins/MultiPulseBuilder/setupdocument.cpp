@@ -76,3 +76,21 @@ QJsonObject defaultMultiplePulses()
     stored.insert(SetupKey::GapMode, 0);
     return stored;
 }
+
+int pulseCountOf(const QJsonObject& document)
+{
+    const QJsonObject stored = document.value(SetupKey::MultiplePulses).toObject();
+    return stored.value(SetupKey::PulseNumbers).toObject().value(SetupKey::Value).toInt();
+}
+
+QVector<SetupRow> rowsOf(const QJsonObject& document)
+{
+    const QJsonObject stored = document.value(SetupKey::MultiplePulses).toObject();
+    QVector<SetupRow> rows;
+    for (const QJsonValue& row : stored.value(SetupKey::WidthGap).toArray()) {
+        const QJsonObject texts = row.toObject();
+        rows.append(
+            {texts.value(SetupKey::Width).toString(), texts.value(SetupKey::Gap).toString()});
+    }
+    return rows;
+}

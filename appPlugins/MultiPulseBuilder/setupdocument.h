@@ -64,3 +64,9 @@ QJsonObject multiplePulsesFromValues(const SetupValues& values);
 /// The member "multiple pulses" of the default setup: two pulses of 2 us with gaps of 10 us, levels
 /// of 1 V and -1 V into 50 ohms, manual trigger, and "Gap Mode", which saved setups never carry.
 QJsonObject defaultMultiplePulses();
+
+/// The stored number of pulses, which need not be that of the rows; 0 where there is none.
+int pulseCountOf(const QJsonObject& document);
+
+/// The rows of the pulse table as they are stored; a missing text is empty.
+QVector<SetupRow> rowsOf(const QJsonObject& document);

@@ -49,6 +49,7 @@ private slots:
     void frequencies();
     void impedances_data();
     void impedances();
+    void impedanceOfALoad();
     void levelsAreNotSent();
     void stopAndReset();
 };
@@ -203,6 +204,14 @@ void TestRunSequence::impedances()
         Documents::train(DefaultCells, "1e-05", "\"load impedance\": " + stored);
     QCOMPARE(withWord(commandsOf(document), "IMPedance"),
              (QVector<QByteArray>{"OUTput1:IMPedance " + sent + "\n"}));
+}
+
+void TestRunSequence::impedanceOfALoad()
+{
+    QCOMPARE(RunSequence::impedanceCommand(LoadImpedance::Ohm50),
+             QByteArray("OUTput1:IMPedance 50\n"));
+    QCOMPARE(RunSequence::impedanceCommand(LoadImpedance::HighZ),
+             QByteArray("OUTput1:IMPedance 10000\n"));
 }
 
 void TestRunSequence::levelsAreNotSent()

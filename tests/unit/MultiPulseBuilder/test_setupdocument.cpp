@@ -3,6 +3,7 @@
 
 #include "setupdocument.h"
 
+#include "documents.h"
 #include "parametertable.h"
 
 #include <QJsonArray>
@@ -168,6 +169,11 @@ private slots:
     void parameterRanges_data();
     void parameterRanges();
     void cellTexts();
+    void storedPulseCount_data();
+    void storedPulseCount();
+    void storedRows_data();
+    void storedRows();
+    void storedIsWhatWasWritten();
 };
 
 void TestSetupDocument::defaultFile()
@@ -300,6 +306,96 @@ void TestSetupDocument::cellTexts()
     QCOMPARE(QByteArray(DefaultWidthText), QByteArray("2.000u"));
     QCOMPARE(QByteArray(DefaultGapText), QByteArray("10.000u"));
     QVERIFY(LevelResolution == 0.0001);
+}
+
+void TestSetupDocument::storedPulseCount_data()
+{
+    QTest::addColumn<QByteArray>("numbers");
+    QTest::addColumn<int>("count");
+    const auto row = [](const char* numbers, int count) {
+        QTest::newRow(numbers) << QByteArray(numbers) << count;
+    };
+    row(R"({"value": 2})", 2);
+    row(R"({"value": 30, "maximum": 7})", 30);
+    // The stored number counts, whether it fits the limits and the rows or not.
+    row(R"({"value": 31})", 31);
+    row(R"({"value": 0})", 0);
+    row(R"({"value": -5})", -5);
+    row(R"({"value": 3.0})", 3);
+    row(R"({"value": 2147483647})", 2147483647);
+    // What is no integer reads as none.
+    row(R"({"value": 2.9})", 0);
+    row(R"({"value": 2147483648})", 0);
+    row(R"({"value": 1e300})", 0);
+    row(R"({"value": "4"})", 0);
+    row(R"({"value": true})", 0);
+    row(R"({"value": null})", 0);
+    row(R"({"maximum": 30})", 0);
+    row("{}", 0);
+    row("4", 0);
+    row("[4]", 0);
+}
+
+void TestSetupDocument::storedPulseCount()
+{
+    QFETCH(QByteArray, numbers);
+    QTEST(pulseCountOf(
+              Documents::fromText("{\"pulse numbers\": " + numbers + ", \"width/gap\": [{}, {}]}")),
+          "count");
+    QCOMPARE(pulseCountOf(Documents::fromText("{}")), 0);
+    QCOMPARE(pulseCountOf(Documents::fromText("7")), 0);
+    QCOMPARE(pulseCountOf(QJsonObject()), 0);
+}
+
+void TestSetupDocument::storedRows_data()
+{
+    QTest::addColumn<QByteArray>("rows");
+    QTest::addColumn<QStringList>("cells");
+    const auto row = [](const char* name, const char* rows, const QStringList& cells) {
+        QTest::newRow(name) << QByteArray(rows) << cells;
+    };
+    const QString empty = QStringLiteral(" ");
+    row("none", "[]", {});
+    row("two", R"([{"width": "2.000u", "gap": "10.000u"}, {"width": "1.000n", "gap": "3.000u"}])",
+        {QStringLiteral("2.000u 10.000u"), QStringLiteral("1.000n 3.000u")});
+    row("texts as they stand", R"([{"width": " 2 u", "gap": "anything"}])",
+        {QStringLiteral(" 2 u anything")});
+    row("no gap", R"([{"width": "2.000u"}])", {QStringLiteral("2.000u ")});
+    row("no width", R"([{"gap": "3.000u"}])", {QStringLiteral(" 3.000u")});
+    row("neither", "[{}, {}]", {empty, empty});
+    row("numbers for texts", R"([{"width": 2e-06, "gap": null}])", {empty});
+    row("no objects", R"([5, "2.000u", [], null])", {empty, empty, empty, empty});
+    row("more members", R"([{"width": "2.000u", "gap": "3.000u", "name": "x"}])",
+        {QStringLiteral("2.000u 3.000u")});
+    row("no array", R"({"width": "2.000u", "gap": "3.000u"})", {});
+    row("text", R"("2.000u")", {});
+}
+
+void TestSetupDocument::storedRows()
+{
+    QFETCH(QByteArray, rows);
+    QStringList cells;
+    for (const SetupRow& row : rowsOf(Documents::fromText("{\"width/gap\": " + rows + "}")))
+        cells.append(row.width + QLatin1Char(' ') + row.gap);
+    QTEST(cells, "cells");
+    QVERIFY(rowsOf(Documents::fromText("{}")).isEmpty());
+    QVERIFY(rowsOf(Documents::fromText("[]")).isEmpty());
+    QVERIFY(rowsOf(QJsonObject()).isEmpty());
+}
+
+void TestSetupDocument::storedIsWhatWasWritten()
+{
+    SetupValues values = otherValues();
+    values.pulseCount = 29;
+    const QJsonObject document = {
+        {QStringLiteral("multiple pulses"), multiplePulsesFromValues(values)}};
+    QCOMPARE(pulseCountOf(document), 29);
+    const QVector<SetupRow> rows = rowsOf(document);
+    QCOMPARE(rows.size(), 2);
+    QCOMPARE(rows.first().width, QStringLiteral("20.000n"));
+    QCOMPARE(rows.first().gap, QStringLiteral("30.000n"));
+    QCOMPARE(rows.last().width, QStringLiteral("anything"));
+    QCOMPARE(rows.last().gap, QString());
 }
 
 QTEST_APPLESS_MAIN(TestSetupDocument)
