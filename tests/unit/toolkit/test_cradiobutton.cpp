@@ -60,11 +60,27 @@ void TestCRadioButton::showsTwoTexts()
     QVERIFY(radio.right->isCheckable());
     QCOMPARE(radio.pair->checkedIndex(), -1);
     QVERIFY(radio.left->x() < radio.right->x());
-    const QString style = radio.pair->styleSheet();
-    QVERIFY(!style.contains(QLatin1Char('%')));
-    QVERIFY(style.contains(QStringLiteral("border-top-left-radius:4px")));
-    QVERIFY(style.contains(QStringLiteral("border-width: 2px 2px 2px 0px")));
-    QVERIFY(style.contains(QStringLiteral("url(/mnt/user-data/.app/appPluginsPics/glow.png)")));
+    QCOMPARE(
+        radio.pair->styleSheet(),
+        QStringLiteral(
+            "QLabel{background:transparent;border:none;}"
+            "QLabel:hover{border-image:url(/mnt/user-data/.app/appPluginsPics/"
+            "glow.png);border:none;}"
+            "QLabel:focus{border-image:url(/mnt/user-data/.app/appPluginsPics/"
+            "glow.png);border:none;}"
+            "QPushButton[objectName=\"left\"]{border-top-left-radius:4px;border-top-right-radius:"
+            "0px; border-bottom-right-radius:0px; border-bottom-left-radius:4px;border: 2px solid "
+            "rgb(255,255,255);color:rgb(255,255,255);text-align :center;}"
+            "QPushButton[objectName=\"left\"]::checked{background-color:rgb(52,120,247);color:rgb("
+            "255,255,255);text-align :center; }"
+            "QPushButton[objectName=\"right\"]{border-top-left-radius:0px; "
+            "border-top-right-radius:4px;border-bottom-right-radius:4px; "
+            "border-bottom-left-radius:0px;border-width: 2px 2px 2px 0px; border-style:solid; "
+            "border-color:rgb(255,255,255);color:rgb(255,255,255);text-align :center;}"
+            "QPushButton[objectName=\"right\"]::checked{background-color:rgb(52,120,247);color:rgb("
+            "255,255,255);text-align :center;}"
+            "QPushButton[objectName=\"left\"]:focus{outline:none;}"
+            "QPushButton[objectName=\"right\"]:focus{outline:none;}"));
 }
 
 void TestCRadioButton::tapChecksOne()

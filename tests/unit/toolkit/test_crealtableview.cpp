@@ -34,8 +34,11 @@ private slots:
     void doubleTapOpensEditor();
     void secondTapOpensEditor();
     void typedValueGoesIntoCell();
+    void sameNumberClosesEditor();
     void returnKeepsPrefix();
     void knobGoesIntoCellOnce();
+    void keyInCell_data();
+    void keyInCell();
     void knobThenTapElsewhere_data();
     void knobThenTapElsewhere();
     void typingThenTapElsewhere_data();
@@ -156,6 +159,17 @@ void TestCRealTableView::typedValueGoesIntoCell()
     QVERIFY(RealTable::warnings().isEmpty());
 }
 
+void TestCRealTableView::sameNumberClosesEditor()
+{
+    const RealTable real(5);
+    real.doubleTapCell(2, 0);
+    FrontPanel::type(text("2"));
+    FrontPanel::press(QT_KEY_MU);
+    QVERIFY(real.editors().isEmpty());
+    QCOMPARE(real.cell(2, 0), text("2.000u"));
+    QVERIFY(RealTable::warnings().isEmpty());
+}
+
 void TestCRealTableView::returnKeepsPrefix()
 {
     const RealTable real(5);
@@ -179,6 +193,64 @@ void TestCRealTableView::knobGoesIntoCellOnce()
         QCOMPARE(real.changes.count(), 1);
         QVERIFY(real.editors().isEmpty());
     }
+}
+
+void TestCRealTableView::keyInCell_data()
+{
+    QTest::addColumn<QVector<int>>("before");
+    QTest::addColumn<int>("key");
+    QTest::addColumn<QString>("cell");
+    QTest::addColumn<bool>("open");
+
+    const QVector<int> opened;
+    const QVector<int> turned{Qt::Key_Up};
+    const QVector<int> typing{Qt::Key_5, Qt::Key_0};
+    const auto row = [](const QVector<int>& before, int key, const char* cell, bool open) {
+        QTest::addRow("%d keys, then %d", before.size(), key)
+            << before << key << text(cell) << open;
+    };
+    for (int key :
+         {int(Qt::Key_7), int(Qt::Key_Period), int(Qt::Key_Minus), int(QT_KEY_MINUS),
+          int(Qt::Key_Backspace), int(Qt::Key_Delete), int(Qt::Key_Left), int(Qt::Key_Right),
+          int(Qt::Key_Up), int(Qt::Key_Down), int(Qt::Key_Cancel), int(QT_KEY_HELP)}) {
+        for (const QVector<int>& before : {opened, turned, typing})
+            row(before, key, "2.000u", true);
+    }
+    for (int key : {int(QT_KEY_GN), int(QT_KEY_MU), int(QT_KEY_KM), int(QT_KEY_X1),
+                    int(QT_KEY_KNOB), int(Qt::Key_Return), int(Qt::Key_Enter)}) {
+        row(opened, key, "2.000u", false);
+        row(turned, key, "3.000u", false);
+    }
+    row(typing, QT_KEY_GN, "50n", false);
+    row(typing, QT_KEY_MU, "50.000u", false);
+    row(typing, QT_KEY_KM, "150.000u", false);
+    row(typing, QT_KEY_X1, "150.000u", false);
+    row(typing, QT_KEY_KNOB, "50.000u", false);
+    row(typing, Qt::Key_Return, "50.000u", false);
+    row(typing, Qt::Key_Enter, "2.000u", false);
+}
+
+void TestCRealTableView::keyInCell()
+{
+    QFETCH(QVector<int>, before);
+    QFETCH(int, key);
+    QFETCH(bool, open);
+
+    const RealTable real(5);
+    real.doubleTapCell(2, 0);
+    for (int first : before)
+        FrontPanel::press(first);
+    FrontPanel::press(key);
+    QTRY_COMPARE(real.editors().size(), open ? 1 : 0);
+    QTEST(real.cell(2, 0), "cell");
+    QCOMPARE(RealTable::warnings().isEmpty(), real.cell(2, 0) != text("150.000u"));
+
+    // What was typed and not confirmed goes with the focus; what the knob turned stays.
+    const QString shown = open && before.size() < 2 ? real.shown() : QString();
+    real.tapCell(3, 1);
+    QVERIFY(real.editors().isEmpty());
+    if (open && (key == Qt::Key_Up || key == Qt::Key_Down) && !shown.isEmpty())
+        QCOMPARE(real.cell(2, 0), shown);
 }
 
 void TestCRealTableView::knobThenTapElsewhere_data()

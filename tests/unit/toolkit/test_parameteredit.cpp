@@ -37,6 +37,7 @@ private slots:
     void disabledEditorIsSilent();
     void resolutionIsSetAlone();
     void cursorKeepsItsDigitWhileFocused();
+    void cursorGoesFirstWithoutFocus();
     void valueThatIsSetEndsTyping();
 };
 
@@ -146,21 +147,45 @@ void TestParameterEdit::hasLookAndParts()
     QCOMPARE(digits->objectName(), QStringLiteral("ParameterTextEdit"));
     QCOMPARE(digits->font().family(), QStringLiteral("Frutiger LT Com 55 Roman"));
     QCOMPARE(digits->font().pixelSize(), 16);
-    QVERIFY(digits->font().bold());
+    QCOMPARE(digits->font().weight(), 75);
+    QVERIFY(!digits->font().italic());
+    for (const QWidget* widget :
+         {static_cast<const QWidget*>(numeric.editor), static_cast<const QWidget*>(digits)}) {
+        QCOMPARE(widget->sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+        QCOMPARE(widget->sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
+    }
     QCOMPARE(digits->alignment(), Qt::AlignRight | Qt::AlignVCenter);
     QCOMPARE(digits->cursorWidth(), 0);
     QCOMPARE(digits->focusPolicy(), Qt::ClickFocus);
     QCOMPARE(digits->lineWrapMode(), QTextEdit::NoWrap);
+    QCOMPARE(digits->wordWrapMode(), QTextOption::NoWrap);
     QVERIFY(!digits->acceptRichText());
     QVERIFY(!digits->tabChangesFocus());
     QCOMPARE(digits->inputMethodHints(), Qt::ImhFormattedNumbersOnly);
     QCOMPARE(digits->horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
+    QCOMPARE(digits->verticalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
     QCOMPARE(numeric.editor->focusProxy(), digits);
     QCOMPARE(numeric.editor->focusPolicy(), Qt::ClickFocus);
-    QVERIFY(numeric.editor->styleSheet().contains(QStringLiteral("border: 2px solid")));
-    QVERIFY(digits->styleSheet().contains(QStringLiteral("QTextEdit:focus{background:rgb(52,")));
+    QCOMPARE(numeric.editor->styleSheet(),
+             QStringLiteral("QLabel{color: rgb(255,255,255); border: 2px solid rgb(255,255,255) "
+                            ";border-radius : 0px;}"
+                            "QLabel:disabled{color: rgb(146,146,146); border: 2px solid "
+                            "rgb(146,146,146) ;border-radius : 0px;}"));
+    QCOMPARE(
+        digits->styleSheet(),
+        QStringLiteral(
+            "QTextEdit{background:transparent;border:none;color:rgb(255,255,255);}"
+            "QTextEdit:disabled{background:transparent;border:none;color:rgb(146,146,146);}"
+            "QTextEdit:focus{background:rgb(52,120,247);border:none;color:rgb(255,255,255);}"));
     QCOMPARE(QLatin1String(numeric.unit()->metaObject()->className()),
              QLatin1String("appPlugins::CTimeUnit"));
+
+    const QLayout* row = numeric.editor->layout();
+    QCOMPARE(row->count(), 2);
+    QCOMPARE(row->spacing(), 0);
+    QCOMPARE(row->contentsMargins(), QMargins());
+    QCOMPARE(row->itemAt(1)->widget(), static_cast<QWidget*>(numeric.unit()));
+    QCOMPARE(row->itemAt(1)->alignment(), Qt::AlignBottom);
 
     // Inside the frame.
     const double width = numeric.editor->contentsRect().width();
@@ -180,6 +205,15 @@ void TestParameterEdit::programIsSilentWithoutFocus()
     numeric.focusOn(0);
     QCOMPARE(numeric.reported.count(), 0);
     QCOMPARE(numeric.shown(), text("2.000000000m"));
+
+    // It is the value that a change is measured by.
+    FrontPanel::type(text("2"));
+    FrontPanel::press(QT_KEY_KM);
+    QCOMPARE(numeric.reported.count(), 0);
+    numeric.focusOn(0);
+    FrontPanel::type(text("1"));
+    FrontPanel::press(QT_KEY_KM);
+    QCOMPARE(numeric.reports(), (QVector<long long>{1000000000}));
 }
 
 void TestParameterEdit::programWithFocusReports()
@@ -246,6 +280,23 @@ void TestParameterEdit::cursorKeepsItsDigitWhileFocused()
     QCOMPARE(numeric.shown(), text("12.3456"));
     QCOMPARE(numeric.digits()->cursorPower(), -2);
     QCOMPARE(numeric.underlined(), QVector<int>{4});
+}
+
+void TestParameterEdit::cursorGoesFirstWithoutFocus()
+{
+    NumericEditor numeric(UNIT_VOLTAGE, 9, 1e-4);
+    numeric.focusOn(3);
+    FrontPanel::tap(numeric.other->textEdit()->viewport());
+    numeric.editor->setValue(-123456);
+    QCOMPARE(numeric.shown(), text("-12.3456"));
+    QCOMPARE(numeric.digits()->textCursor().position(), 0);
+    QVERIFY(numeric.underlined().isEmpty());
+
+    // With the focus it stands on a digit.
+    numeric.editor->setFocus();
+    FrontPanel::settle();
+    QCOMPARE(numeric.underlined(), QVector<int>{1});
+    QCOMPARE(numeric.digits()->cursorPower(), 1);
 }
 
 void TestParameterEdit::valueThatIsSetEndsTyping()

@@ -5,6 +5,7 @@
 
 #include "numericeditor.h"
 
+#include <QScrollBar>
 #include <QtTest>
 
 #include <limits>
@@ -42,10 +43,13 @@ private slots:
     void specialRightArrow();
     void knob_data();
     void knob();
+    void knobTurnsGrownZero_data();
+    void knobTurnsGrownZero();
     void knobCrossesZero();
     void knobOnSignIsIgnored();
     void knobLogsItsDetents();
     void everyDetentReports();
+    void knobScrollsLongNumber();
     void fingerPicksDigit();
 };
 
@@ -226,6 +230,18 @@ void TestParameterEditArrows::knob_data()
     row("finer than the resolution", UNIT_TIME, 1e-7, 1, 2, 5, 1, "100n", 2);
     row("in zeros behind the steps", UNIT_TIME, 1e-7, 1, 0, 2, 3, "300n", 0);
     row("a count", UNIT_EMPTY, 1, 2, 0, 3, 5, "5", 0);
+    row("last digit carries", UNIT_TIME, 1e-12, 1999999999, 10, 1, 2000000000, "2.000000000m", 10);
+    row("units up over the prefix", UNIT_TIME, 1e-12, 999000000, 2, 1, 1000000000, "1.000000000m",
+        3);
+    row("no limit at zero", UNIT_TIME, 1e-12, 1000000000, 0, -2, -10000000000, "-10.000000000m", 2);
+    row("last digit over zero", UNIT_VOLTAGE, 1e-4, 1, 2, -2, -1, "-0.1m", 3);
+    row("last digit back over zero", UNIT_VOLTAGE, 1e-4, -1, 3, 2, 1, "0.1m", 2);
+    row("percent", UNIT_PERCENT, 0.01, 5000, 3, -1, 4990, "49.90", 3);
+    row("rate", UNIT_RATE, 1, 1000000000, 2, -1, 900000000, "0.900000000G", 2);
+    row("phase over zero", UNIT_PHASE, 0.001, 1000, 0, -2, -1000, "-1.000", 1);
+    row("points over the prefix", UNIT_POINTS, 1, 999, 2, 1, 1000, "1.000k", 4);
+    row("frequency down over the prefix", UNIT_FREQUENCY, 1e-6, 1000000000, 10, -1, 999999999,
+        "999.999999", 9);
 }
 
 void TestParameterEditArrows::knob()
@@ -246,6 +262,44 @@ void TestParameterEditArrows::knob()
     QTEST(numeric.editor->getStringValue(), "shown");
     QCOMPARE(numeric.underlined(), QVector<int>{underlined});
     QVERIFY(numeric.form.pressed.isEmpty());
+}
+
+void TestParameterEditArrows::knobTurnsGrownZero_data()
+{
+    QTest::addColumn<int>("type");
+    QTest::addColumn<double>("resolution");
+    QTest::addColumn<long long>("steps");
+    QTest::addColumn<int>("detents");
+    QTest::addColumn<QString>("shown");
+    QTest::addColumn<int>("underlined");
+
+    QTest::newRow("up") << int(UNIT_TIME) << 1e-12 << 1000000000LL << 1 << text("11.000000000m")
+                        << 0;
+    QTest::newRow("down over zero")
+        << int(UNIT_VOLTAGE) << 1e-4 << 10000LL << -1 << text("-9.0000") << 1;
+    QTest::newRow("negative down")
+        << int(UNIT_VOLTAGE) << 1e-4 << -10000LL << -1 << text("-11.0000") << 1;
+    QTest::newRow("negative up over zero")
+        << int(UNIT_VOLTAGE) << 1e-4 << -10000LL << 1 << text("9.0000") << 0;
+}
+
+void TestParameterEditArrows::knobTurnsGrownZero()
+{
+    QFETCH(int, type);
+    QFETCH(double, resolution);
+    QFETCH(long long, steps);
+    QFETCH(int, detents);
+    QFETCH(int, underlined);
+
+    NumericEditor numeric(static_cast<ENUM_UNIT_TYPE>(type), 0, resolution);
+    numeric.editor->setValue(steps);
+    numeric.focusOn(steps < 0 ? 1 : 0);
+    FrontPanel::press(Qt::Key_Left);
+    QCOMPARE(numeric.digits()->cursorPower(), 1);
+    FrontPanel::knob(detents);
+    QTEST(numeric.shown(), "shown");
+    QCOMPARE(numeric.underlined(), QVector<int>{underlined});
+    QCOMPARE(numeric.reports().size(), 1);
 }
 
 // The cursor keeps its distance from the right end, in characters: at the point it changes its
@@ -303,6 +357,35 @@ void TestParameterEditArrows::everyDetentReports()
     FrontPanel::knob(-1);
     QCOMPARE(numeric.reports(), (QVector<long long>{1100000000, 1200000000, 1100000000}));
     QCOMPARE(numeric.valueSet.count(), 3);
+}
+
+// More digits than there is room for: the first ones come into view with the cursor among them, a
+// step more of the others behind.
+void TestParameterEditArrows::knobScrollsLongNumber()
+{
+    NumericEditor numeric(UNIT_TIME, 0, 1e-12);
+    numeric.editor->setFixedWidth(90);
+    numeric.editor->setValue(1234567890123456789);
+    FrontPanel::settle();
+    QScrollBar* bar = numeric.digits()->horizontalScrollBar();
+    QVERIFY(bar->maximum() > 5 * bar->singleStep());
+    for (int position : {0, 4, 5, 12}) {
+        numeric.focusOn(position);
+        numeric.editor->redraw();
+        const int before = bar->value();
+        FrontPanel::knob(1);
+        QCOMPARE(numeric.underlined(), QVector<int>{position});
+        const int stepOn = qMin(before + bar->singleStep(), bar->maximum());
+        QCOMPARE(bar->value(), position <= 4 ? bar->minimum() : stepOn);
+    }
+
+    // Also when there is nothing to add.
+    numeric.editor->setValue(Largest);
+    numeric.focusOn(0);
+    bar->setValue(bar->maximum());
+    FrontPanel::knob(1);
+    QCOMPARE(numeric.editor->getValue(), Largest);
+    QCOMPARE(bar->value(), bar->minimum());
 }
 
 void TestParameterEditArrows::fingerPicksDigit()

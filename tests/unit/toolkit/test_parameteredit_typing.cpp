@@ -35,6 +35,7 @@ private slots:
     void sign();
     void signMeansNothingWithoutNegativeValues();
     void pointComesOnce();
+    void enterOfKeypadBreaksNoLine();
     void backspaceStartsEmpty();
     void arrowsAndKnobRestWhileTyping();
     void cancelRestores();
@@ -77,6 +78,14 @@ void TestParameterEditTyping::commitsTypedNumber_data()
     row("too fine for one step", UNIT_TIME, 1e-7, "5", QT_KEY_GN, 0, "0.0000000");
     row("too fine with a point", UNIT_TIME, 1e-7, "5.5", QT_KEY_GN, 0, "0.0000000");
     row("overflow", UNIT_TIME, 1e-12, "99999999999", QT_KEY_X1, Largest, "9223372.036854775807");
+    row("largest by hand", UNIT_TIME, 1e-12, "9223372.036854775807", QT_KEY_X1, Largest,
+        "9223372.036854775807");
+    row("one more than the largest", UNIT_TIME, 1e-12, "9223372.036854775808", QT_KEY_X1, Largest,
+        "9223372.036854775807");
+    row("negative overflow", UNIT_VOLTAGE, 1e-4, "-99999999999999999999", QT_KEY_X1, Largest,
+        "922337203685477.5807");
+    row("smallest by hand", UNIT_VOLTAGE, 1e-4, "-922337203685477.5808", QT_KEY_X1, -Largest - 1,
+        "-922337203685477.5808");
     row("Return keeps the prefix", UNIT_TIME, 1e-12, "8", Qt::Key_Return, 8000000000,
         "8.000000000m");
     row("so does the knob", UNIT_TIME, 1e-12, "8", QT_KEY_KNOB, 8000000000, "8.000000000m");
@@ -124,6 +133,8 @@ void TestParameterEditTyping::commitsTypedNumber()
     QVERIFY(!numeric.digits()->hasFocus());
     QVERIFY(numeric.form.hasFocus());
     QVERIFY(numeric.underlined().isEmpty());
+    // The next finger or knob begins at the first digit.
+    QCOMPARE(numeric.digits()->textCursor().position(), steps < 0 ? 1 : 0);
 }
 
 void TestParameterEditTyping::showsWhatIsTyped()
@@ -205,6 +216,21 @@ void TestParameterEditTyping::pointComesOnce()
     FrontPanel::press(QT_KEY_KM);
     QCOMPARE(numeric.shown(), text("1.000000000m"));
     QCOMPARE(numeric.reported.count(), 0);
+}
+
+void TestParameterEditTyping::enterOfKeypadBreaksNoLine()
+{
+    for (const char* typed : {"", "12"}) {
+        NumericEditor numeric(UNIT_VOLTAGE, 5, 1e-4);
+        numeric.focusOn(2);
+        FrontPanel::type(text(typed));
+        const QString before = numeric.shown();
+        FrontPanel::post(QEvent::KeyPress, Qt::Key_Enter);
+        FrontPanel::settle();
+        QCOMPARE(numeric.shown(), before);
+        QVERIFY(numeric.digits()->hasFocus());
+        QVERIFY(numeric.form.pressed.isEmpty());
+    }
 }
 
 void TestParameterEditTyping::backspaceStartsEmpty()

@@ -56,6 +56,7 @@ class TestPlainCombComponents : public QObject
     Q_OBJECT
 
 private slots:
+    void haveLook();
     void stringIsSetByProgram_data();
     void stringIsSetByProgram();
     void stringIsTyped();
@@ -67,6 +68,30 @@ private slots:
     void actionFollowsLanguage();
     void emptyHoldsItsPlace();
 };
+
+void TestPlainCombComponents::haveLook()
+{
+    const Name name;
+    QCOMPARE(name.line()->styleSheet(),
+             QStringLiteral(
+                 "QLineEdit{border: 2px solid rgb(255,255,255) ;border-radius : "
+                 "0px;color:rgb(255,255,255);padding-right:30px; background:transparent;}\n"
+                 "QLineEdit:focus{border: 1px solid  "
+                 "blue;border-radius:2px;color:rgb(255,255,255);padding-right:30px;background:"
+                 "transparent;}\n"
+                 "QLineEdit:disabled{background:transparent;border: 2px solid rgb(146,146,146) "
+                 ";border-radius : 0px;color:rgb(146,146,146);padding-right:30px;}\n"));
+    const Action action(DummyAction);
+    QCOMPARE(action.button()->styleSheet(),
+             QStringLiteral("QPushButton{border-image:url(/mnt/user-data/.app/appPluginsPics/"
+                            "R_button_n.png);color:rgb(255,255,255); }"
+                            "QPushButton:focus{border-image:url(/mnt/user-data/.app/appPluginsPics/"
+                            "R_button_d.png);color:rgb(255,255,255);outline:none;}"
+                            "QPushButton:pressed{border-image:url(/mnt/user-data/.app/"
+                            "appPluginsPics/R_button_d.png);color:rgb(255,255,255);outline:none;}"
+                            "QPushButton:disabled{outline:none;border-image:url(/mnt/user-data/"
+                            ".app/appPluginsPics/R_button_d.png);color:rgb(146,146,146);}"));
+}
 
 void TestPlainCombComponents::stringIsSetByProgram_data()
 {
@@ -97,7 +122,8 @@ void TestPlainCombComponents::stringIsTyped()
 {
     Name name;
     QVERIFY(name.component->set(QStringLiteral("ab")));
-    FrontPanel::tap(name.line());
+    // Behind the text.
+    FrontPanel::tap(name.line(), QPoint(name.line()->width() - 3, name.line()->height() / 2));
     FrontPanel::press(Qt::Key_Return);
     QCOMPARE(name.changed.count(), 0);
     FrontPanel::type(QStringLiteral("cd"));

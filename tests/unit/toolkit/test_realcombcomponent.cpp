@@ -5,6 +5,7 @@
 
 #include "realcomponent.h"
 
+#include <QHBoxLayout>
 #include <QtTest>
 
 #include <cmath>
@@ -18,6 +19,11 @@ QString text(const char* latin1)
     return QString::fromLatin1(latin1);
 }
 
+ParameterTextWithOrderOfMagnitude* wholeOf(const RealComponent& real)
+{
+    return real->findChild<ParameterTextWithOrderOfMagnitude*>();
+}
+
 } // namespace
 
 /// Limits, rounding and who is told of what.
@@ -26,6 +32,7 @@ class TestRealCombComponent : public QObject
     Q_OBJECT
 
 private slots:
+    void hasLookAndRow();
     void limitsInEitherOrder();
     void defaultIsClampedFromAboveAlone_data();
     void defaultIsClampedFromAboveAlone();
@@ -35,6 +42,8 @@ private slots:
     void setShowsSilently();
     void setBeyondLimits_data();
     void setBeyondLimits();
+    void setNoFiniteNumber();
+    void setWithinMarginOfLimit();
     void setSameIsTrueAndSilent();
     void setWhileFocusedIsSilent();
     void setWhileTyping();
@@ -43,6 +52,33 @@ private slots:
     void limitsWhileDisabledStay();
     void actualSetLogs();
 };
+
+void TestRealCombComponent::hasLookAndRow()
+{
+    const RealComponent real(UNIT_VOLTAGE, 5, 0, 10, 1e-4);
+    QCOMPARE(
+        real->styleSheet(),
+        QStringLiteral("QLabel{border:none;color:rgb(255,255,255);background:#2e2e2e;}\n"
+                       "QLabel:disabled{border:none;color:rgb(146,146,146);background:#2e2e2e;}\n"
+                       "QLabel[bDisguiseFocus=\"true\"]{border:none;color:rgb(255,255,255);"
+                       "background:rgb(52,120,247);}\n"
+                       "QLabel[bDisguiseFocus=\"false\"]{border:none;color:rgb(255,255,255);"
+                       "background:#2e2e2e;}"));
+    QCOMPARE(real->focusProxy(), wholeOf(real));
+    const auto* row = qobject_cast<QHBoxLayout*>(real->layout());
+    QCOMPARE(row->count(), 3);
+    QCOMPARE(row->itemAt(1)->widget(), static_cast<QWidget*>(wholeOf(real)));
+    const int stretches[] = {172, 156, 32};
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(row->stretch(i), stretches[i]);
+
+    // Digits and prefix share the input three to two from then on.
+    real->setCombComponentsHorLayout(1, 2, 1, 10);
+    wholeOf(real)->layout()->activate();
+    const double width = wholeOf(real)->contentsRect().width();
+    QCOMPARE(real.digits()->width(), qRound(width * 3 / 5));
+    QCOMPARE(real.prefix()->width(), qRound(width * 2 / 5));
+}
 
 void TestRealCombComponent::limitsInEitherOrder()
 {
@@ -160,6 +196,33 @@ void TestRealCombComponent::setBeyondLimits()
     // A count is cut to a whole number by its owner: no margin may be left in it.
     QCOMPARE(static_cast<int>(real->get()), 2);
     QVERIFY(real.changes().isEmpty());
+}
+
+void TestRealCombComponent::setNoFiniteNumber()
+{
+    RealComponent real(UNIT_VOLTAGE, 1, -5, 5, 1e-4);
+    QVERIFY(!real->set(std::nan("")));
+    QCOMPARE(real->get(), 1.0);
+    QCOMPARE(real.shown(), text("1.0000"));
+    QVERIFY(real.isSilent());
+
+    QVERIFY(!real->set(HUGE_VAL));
+    QCOMPARE(real->get(), 5.0);
+    QCOMPARE(real.shown(), text("5.0000"));
+    QVERIFY(!real->set(-HUGE_VAL));
+    QCOMPARE(real->get(), -5.0);
+    QCOMPARE(real.shown(), text("-5.0000"));
+    QCOMPARE(real.illegal.count(), 2);
+}
+
+void TestRealCombComponent::setWithinMarginOfLimit()
+{
+    RealComponent real(UNIT_VOLTAGE, 0, -5, 5, 1e-4);
+    QVERIFY(real->set(5 + 4e-15));
+    QCOMPARE(real.shown(), text("5.0000"));
+    QVERIFY(real->set(-5 - 4e-15));
+    QCOMPARE(real.shown(), text("-5.0000"));
+    QVERIFY(real.isSilent());
 }
 
 void TestRealCombComponent::setSameIsTrueAndSilent()

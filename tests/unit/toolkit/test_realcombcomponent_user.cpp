@@ -52,6 +52,7 @@ private slots:
     void tableKnobBeyondLimitIsIllegal();
     void tableKnobWhileTyping();
     void tableKeysFasterThanQueue();
+    void tableDisabledUnderTurnedKnob();
     void tableInputTakesTheWidth();
 };
 
@@ -79,6 +80,7 @@ void TestRealCombComponentUser::typedValue_data()
     row("-7.25", QT_KEY_X1, {}, {-7.25}, -5, "-5.0000");
     row("0", QT_KEY_X1, {0}, {}, 0, "0.0000");
     row("99999999999999999999", QT_KEY_X1, {}, {922337203685000}, 5, "5.0000");
+    row("-99999999999999999999", QT_KEY_X1, {}, {922337203685000}, 5, "5.0000");
     row("1", QT_KEY_X1, {}, {}, 1, "1.0000");
     row("4", QT_KEY_GN, {}, {}, 1, "1.0000");
     row("-", QT_KEY_X1, {}, {}, 1, "1.0000");
@@ -282,12 +284,29 @@ void TestRealCombComponentUser::tableKeysFasterThanQueue()
     QCOMPARE(cell.shown(), text("7.000u"));
 }
 
+void TestRealCombComponentUser::tableDisabledUnderTurnedKnob()
+{
+    TableReal cell;
+    cell.focusOn(0);
+    FrontPanel::knob(1);
+    FrontPanel::post(QEvent::KeyPress, QT_KEY_KNOB);
+    cell->setDisable(true);
+    FrontPanel::settle();
+    QVERIFY(cell.isSilent());
+    QCOMPARE(cell.shown(), text("3.000u"));
+}
+
 void TestRealCombComponentUser::tableInputTakesTheWidth()
 {
     TableReal cell;
     cell->setCombComponentsHorLayout(0, 1, 0, 0);
     cell->layout()->activate();
     QCOMPARE(cell->findChild<ParameterTextWithOrderOfMagnitude*>()->width(), cell->width());
+    for (int item : {0, 2}) {
+        const QSizePolicy policy = cell->layout()->itemAt(item)->widget()->sizePolicy();
+        QCOMPARE(policy.horizontalPolicy(), QSizePolicy::Ignored);
+        QCOMPARE(policy.verticalPolicy(), QSizePolicy::Expanding);
+    }
 }
 
 QTEST_MAIN(TestRealCombComponentUser)

@@ -100,6 +100,7 @@ private slots:
     void comboBySaveIdentifier();
     void comboWhileDisabled();
     void comboFollowsLanguage();
+    void sliderHasLook();
     void sliderByFinger();
     void sliderByProgram();
     void sliderWhileDisabled();
@@ -251,6 +252,21 @@ void TestSelectionCombComponents::comboFollowsLanguage()
     QCOMPARE(choice.combo()->currentIndex(), 1);
     QCOMPARE(int(choice->get()), 1);
     QVERIFY(choice.reports.isEmpty());
+}
+
+void TestSelectionCombComponents::sliderHasLook()
+{
+    const Slider choice(None);
+    QCOMPARE(
+        choice.slider()->styleSheet(),
+        QStringLiteral(
+            "QSlider::groove:horizontal {border:2px solid rgb(255,255,255);border-radius:17px;}"
+            "QSlider::handle:horizontal "
+            "{border-image:url(/mnt/user-data/.app/appPluginsPics/toggle button.png);width:34px;}"
+            "QSlider::add-page:horizontal{background:transparent;border:2px solid "
+            "rgb(255,255,255);border-top-right-radius:17px;border-bottom-right-radius:17px;}"
+            "QSlider::sub-page:horizontal{background:blue;border:2px solid "
+            "rgb(255,255,255);border-top-left-radius:17px;border-bottom-left-radius:17px;}"));
 }
 
 void TestSelectionCombComponents::sliderByFinger()

@@ -4,6 +4,7 @@
 #include "tabledelegates.h"
 
 #include "hostcallbacks.h"
+#include "parameteredit.h"
 #include "realcombcomponent.h"
 #include "stdoutcapture.h"
 #include "toolkitform.h"
@@ -70,6 +71,8 @@ private slots:
     void textThatReadsDifferentlyIsPrinted();
     void wrongNewValueIsPrinted();
     void editorFillsCell();
+    void negativeCell_data();
+    void negativeCell();
 };
 
 void TestTableDelegates::init()
@@ -214,6 +217,47 @@ void TestTableDelegates::editorFillsCell()
     const Cell cell(&delegate, QStringLiteral("2.000u"));
     const auto* view = cell.form.findChild<QTableView*>();
     QCOMPARE(cell.editor()->geometry(), view->visualRect(cell.index()));
+}
+
+void TestTableDelegates::negativeCell_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QVector<int>>("keys");
+    QTest::addColumn<QString>("cell");
+
+    const int down = Qt::Key_Down;
+    const int up = Qt::Key_Up;
+    QTest::newRow("typed") << QStringLiteral("1.0000")
+                           << QVector<int>{Qt::Key_Minus, Qt::Key_2, QT_KEY_X1}
+                           << QStringLiteral("-2.0000");
+    QTest::newRow("knob over zero")
+        << QStringLiteral("1.0000") << QVector<int>{down, down, QT_KEY_KNOB}
+        << QStringLiteral("-1.0000");
+    QTest::newRow("knob back over zero")
+        << QStringLiteral("-1.0000") << QVector<int>{up, up, QT_KEY_KNOB}
+        << QStringLiteral("1.0000");
+    QTest::newRow("typed below the limit")
+        << QStringLiteral("-1.0000") << QVector<int>{Qt::Key_Minus, Qt::Key_9, QT_KEY_X1}
+        << QStringLiteral("-5.0000");
+    QTest::newRow("typed in milli")
+        << QStringLiteral("-1.0000") << QVector<int>{QT_KEY_MINUS, Qt::Key_9, QT_KEY_KM}
+        << QStringLiteral("-9.0m");
+}
+
+void TestTableDelegates::negativeCell()
+{
+    QFETCH(QString, text);
+    QFETCH(QVector<int>, keys);
+
+    RealPrivate column = columnOf(UNIT_VOLTAGE, 5, 1e-4);
+    column.dbAbsoluteMin = -5;
+    RealEditDelegate delegate(column, nullptr);
+    const Cell cell(&delegate, text);
+    FrontPanel::tap(cell.editor()->findChild<ParameterTextEdit*>()->viewport(), QPoint(1, 10));
+    for (int key : keys)
+        FrontPanel::press(key);
+    QTRY_VERIFY(cell.editor() == nullptr);
+    QTEST(cell.text(), "cell");
 }
 
 QTEST_MAIN(TestTableDelegates)

@@ -252,7 +252,21 @@ void TestUnit::hasLook()
     QCOMPARE(unit.focusPolicy(), Qt::ClickFocus);
     QCOMPARE(unit.font().family(), QStringLiteral("Frutiger LT Com 55 Roman"));
     QCOMPARE(unit.font().pixelSize(), 16);
-    QVERIFY(unit.font().bold());
+    QCOMPARE(unit.font().weight(), 75);
+    QCOMPARE(unit.sizePolicy().horizontalPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(unit.sizePolicy().verticalPolicy(), QSizePolicy::Expanding);
+    QCOMPARE(
+        unit.styleSheet(),
+        QStringLiteral("QLabel{border:none;color:rgb(255,255,255);background:transparent;}"
+                       "QLabel:disabled{border:none;color:rgb(146,146,146);background:transparent;}"
+                       "QLabel[bDisguiseFocus=\"true\"]{border:none;color:rgb(255,255,255);"
+                       "background:rgb(52,120,247);}"
+                       "QLabel[bDisguiseFocus=\"true\"]:disabled{border:none;color:rgb(146,146,146)"
+                       ";background:rgb(52,120,247);}"
+                       "QLabel[bDisguiseFocus=\"false\"]{border:none;color:rgb(255,255,255);"
+                       "background:transparent;}"
+                       "QLabel[bDisguiseFocus=\"false\"]:disabled{border:none;color:rgb(146,146,"
+                       "146);background:transparent;}"));
     QVERIFY(!unit.getBDisguiseFocus());
     QCOMPARE(unit.property("bDisguiseFocus"), QVariant(false));
 }
