@@ -77,6 +77,7 @@ int EditorLook::iconSize(const QRect& toolBar)
 QString EditorLook::helpStyleSheet()
 {
     return QStringLiteral("QWidget{background:%1;color:%2;font-family:\"%5\";font-size:16px;}"
+                          "QWidget#help{border:2px solid %6;}"
                           "QTextBrowser{background:%3;border:none;padding:8px;}"
                           "QPushButton{background:%3;border:2px solid %2;border-radius:4px;"
                           "min-height:36px;}"
@@ -88,5 +89,5 @@ QString EditorLook::helpStyleSheet()
                           "QScrollBar::add-page:vertical,QScrollBar::sub-page:vertical{"
                           "background:transparent;}")
         .arg(Look::DarkBackground, Look::White, Look::PanelBackground, Look::FocusBlue,
-             Look::FontFamily);
+             Look::FontFamily, Look::DisabledGrey);
 }

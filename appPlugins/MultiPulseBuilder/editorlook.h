@@ -25,13 +25,14 @@ const QRect TableArea(400, 228, 392, 176);
 const QRect BottomArea(8, 408, 784, 1);
 
 /// Inside the parameter panel and its border, and between its rows: seven of one height fill it.
-const QMargins ParameterMargins(8, 8, 8, 8);
+const QMargins ParameterMargins(4, 8, 4, 8);
 const int RowGap = 5;
 
-/// How a parameter's row is shared out among title, value and unit.
-const int TitleShare = 168;
-const int ValueShare = 154;
-const int UnitShare = 26;
+/// How a parameter's row is shared out among title, value and unit: the value has room for the
+/// longest number, a timer of hundreds of seconds.
+const int TitleShare = 160;
+const int ValueShare = 180;
+const int UnitShare = 16;
 
 QFont titleFont();
 

@@ -20,6 +20,9 @@ QWidget* createHelpWindow(const QString& path)
 {
     auto* window = new QWidget;
     window->setAttribute(Qt::WA_DeleteOnClose);
+    // The instrument's screen frames no windows: the sheet draws a border.
+    window->setAttribute(Qt::WA_StyledBackground);
+    window->setObjectName(QStringLiteral("help"));
     window->setStyleSheet(EditorLook::helpStyleSheet());
 
     auto* title = new QLabel(QStringLiteral("Double Pulse Help"), window);

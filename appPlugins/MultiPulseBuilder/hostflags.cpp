@@ -28,8 +28,13 @@ bool HostFlags::setBoth(bool value)
         return false;
 
     segment.lock();
-    flags(segment)->SetDiscardKeys(value);
-    flags(segment)->SetBlockSCPI(value);
+    if (value) {
+        flags(segment)->SetDiscardKeys(true);
+        flags(segment)->SetBlockSCPI(true);
+    } else {
+        flags(segment)->SetBlockSCPI(false);
+        flags(segment)->SetDiscardKeys(false);
+    }
     segment.unlock();
     segment.detach();
     return true;

@@ -9,30 +9,49 @@
 #include "hostcallbacks.h"
 #include "multipulseeditor.h"
 
+#include <QCoreApplication>
 #include <QDebug>
 #include <QGlobalStatic>
 #include <QPointer>
 
 namespace {
 
-/// Owns the one editor. The host's parent widget may take it along before that.
+void deleteEditor();
+
+/// Owns the one editor. The host's parent widget may take it along before that, and so does the end
+/// of the application, without which no widget can be deleted any more.
 class EditorHolder
 {
 public:
-    ~EditorHolder() { delete m_editor; }
+    ~EditorHolder()
+    {
+        qRemovePostRoutine(&deleteEditor);
+        remove();
+    }
 
     MultiPulseEditor* editor()
     {
-        if (m_editor == nullptr)
+        if (m_editor == nullptr) {
             m_editor = new MultiPulseEditor(nullptr);
+            qRemovePostRoutine(&deleteEditor);
+            qAddPostRoutine(&deleteEditor);
+        }
         return m_editor;
     }
+
+    void remove() { delete m_editor; }
 
 private:
     QPointer<MultiPulseEditor> m_editor;
 };
 
 Q_GLOBAL_STATIC(EditorHolder, g_MultiPulseEditor)
+
+void deleteEditor()
+{
+    if (g_MultiPulseEditor.exists())
+        g_MultiPulseEditor->remove();
+}
 
 template<typename Callback>
 void keepOrReplace(Callback& stored, Callback offered)
@@ -91,5 +110,7 @@ int MultiPulseBuilderPlugin::close()
 
 QWidget* MultiPulseBuilderPlugin::getWindow()
 {
-    return g_MultiPulseEditor.isDestroyed() ? nullptr : g_MultiPulseEditor->editor();
+    if (g_MultiPulseEditor.isDestroyed() || QCoreApplication::instance() == nullptr)
+        return nullptr;
+    return g_MultiPulseEditor->editor();
 }

@@ -36,6 +36,7 @@ public:
     /// Rejects the editor. Returns 0.
     int close() override;
 
-    /// The editor, made on first use; null once it went with the library or the process.
+    /// The editor, made on first use; null once the application, the library or the process has
+    /// ended.
     QWidget* getWindow() override;
 };

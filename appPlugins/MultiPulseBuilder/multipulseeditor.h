@@ -146,7 +146,6 @@ private:
     int pulseCount() const;
     LoadImpedance load() const;
     void showThumbnail(const QString& fileName);
-    void showUnmarkedThumbnail(const char* caller, int count);
     void showTrigger(const PulseTrain& train);
     void showLoad(LoadImpedance load);
     void showRows(const QVector<SetupRow>& rows);
@@ -154,6 +153,7 @@ private:
     void warnUnlessReloading(appPlugins::RealCombComponent* component, double illegalValue);
 
     bool run(InstrumentLink& link, QByteArray& command);
+    bool sendRun(InstrumentLink& link, const PulseTrain& train, QByteArray& command);
     bool stop(InstrumentLink& link, QByteArray& command);
     void finishSequence(InstrumentLink& link);
     void discardSegmentProblem() const;

@@ -21,7 +21,8 @@ bool MultiPulseEditor::checkDiscardKeys()
     return discard;
 }
 
-// A key press never reaches the base, which would swallow it: unhandled, it goes on to the host.
+// A key press never reaches the base, which would swallow it: unhandled, it goes on to the host's
+// surface.
 bool MultiPulseEditor::event(QEvent* qEvent)
 {
     switch (qEvent->type()) {

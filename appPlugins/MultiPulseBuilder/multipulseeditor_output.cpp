@@ -5,7 +5,6 @@
 
 #include "cplugincombcomponent.h"
 #include "cstackedcombocomponents.h"
-#include "frontpanelkeys.h"
 #include "hostcallbacks.h"
 #include "hostflags.h"
 #include "instrumentlink.h"
@@ -18,13 +17,13 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QJsonObject>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMessageBox>
 #include <QTimer>
 
 #include <cstdio>
 #include <cstdlib>
+#include <tuple>
 
 using appPlugins::translated;
 
@@ -91,13 +90,23 @@ bool MultiPulseEditor::run(InstrumentLink& link, QByteArray& command)
     downLoadDisplay(document);
     if (makeAndSaveMPWVWfm(RunSequence::WaveformPath, document)) {
         const PulseTrain train = PulseTrain::fromDocument(document, load());
-        qDebug() << RunSequence::impedanceCommand(train.load);
-        qDebug() << "freq" << train.frequency();
-        if (!link.sendAll(RunSequence::runCommands(train), command))
+        if (!sendRun(link, train, command))
             return false;
     }
     m_pActionRun->setText(translated(TR_STR_ID_SWEEP_STOP));
     return true;
+}
+
+bool MultiPulseEditor::sendRun(InstrumentLink& link, const PulseTrain& train, QByteArray& command)
+{
+    const QVector<QByteArray> commands = RunSequence::runCommands(train);
+    const int impedance = commands.indexOf(RunSequence::impedanceCommand(train.load));
+    if (!link.sendAll(commands.mid(0, impedance), command))
+        return false;
+
+    qDebug() << commands.at(impedance);
+    qDebug() << "freq" << train.frequency();
+    return link.sendAll(commands.mid(impedance), command);
 }
 
 bool MultiPulseEditor::stop(InstrumentLink& link, QByteArray& command)
@@ -106,8 +115,8 @@ bool MultiPulseEditor::stop(InstrumentLink& link, QByteArray& command)
             << "is not checked";
     if (!link.sendAll(RunSequence::stopCommandsBeforeDelete(), command))
         return false;
-    if (std::system(RunSequence::DeleteWaveform) != 0) // NOLINT(cert-env33-c): a fixed text
-        qWarning() << "slt_runOrStopWaveformOutput" << RunSequence::DeleteWaveform << "failed";
+    // A file that is gone already is what was wanted.
+    std::ignore = std::system(RunSequence::DeleteWaveform); // NOLINT(cert-env33-c): a fixed text
     if (!link.sendAll(RunSequence::stopCommandsAfterDelete(), command))
         return false;
     m_pActionRun->setText(translated(TR_STR_UTILITY_RUN));

@@ -8,6 +8,7 @@
 #include "multipulseeditorprivate.h"
 #include "pulsetable.h"
 #include "rangewarning.h"
+#include "thumbnailpicture.h"
 
 #include <QDebug>
 #include <QPointF>
@@ -55,8 +56,10 @@ void MultiPulseEditor::slt_TriggerTimerIllegal(double illegalValue)
 
 void MultiPulseEditor::slt_pulseNumsParamChanged(double newValue)
 {
-    showUnmarkedThumbnail("MultiPulseEditor::slt_pulseNumsParamChanged",
-                          static_cast<int>(newValue));
+    const QString picture = ThumbnailPicture::unmarked(static_cast<int>(newValue));
+    qInfo() << "MultiPulseEditor::slt_pulseNumsParamChanged"
+            << "fileName=" << ThumbnailPicture::path(picture);
+    showThumbnail(picture);
 
     const QAbstractItemModel* rows = m_pTableView->model();
     while (newValue < rows->rowCount())

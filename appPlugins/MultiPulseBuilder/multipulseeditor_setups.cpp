@@ -13,6 +13,7 @@
 #include "pulsetable.h"
 #include "pulsetrain.h"
 #include "setupdocument.h"
+#include "thumbnailpicture.h"
 #include "trainsamples.h"
 #include "translated.h"
 
@@ -43,7 +44,6 @@ bool choose(SelectionCombComponent* component, int index)
     return index >= 0 && index <= 0xFFFF && component->set(static_cast<Uint16>(index));
 }
 
-// A document holds whatever a file says; both files are written all the same when one fails.
 void logSave(bool saved, const QString& path)
 {
     qWarning() << "slt_saveAsBtnClicked"
@@ -81,7 +81,10 @@ void MultiPulseEditor::updateAllComponentsDisplay(const QJsonObject& jsonObj)
     const PulseTrain train = PulseTrain::fromDocument(jsonObj);
     const int count = pulseCountOf(jsonObj);
     m_pPulseNums->set(count);
-    showUnmarkedThumbnail("updateAllComponentsDisplay", count);
+    const QString picture = ThumbnailPicture::unmarked(count);
+    showThumbnail(picture);
+    qInfo() << "updateAllComponentsDisplay"
+            << "fileName" << ThumbnailPicture::path(picture);
     qInfo() << "updateAllComponentsDisplay"
             << "#AMPOFF";
     d_ptr->util_amplitudeChanged(train.amplitude);
@@ -121,9 +124,10 @@ void MultiPulseEditor::showRows(const QVector<SetupRow>& rows)
 bool MultiPulseEditor::makeAndSaveMPWVWfm(const char* filePath, const QJsonObject& jsonObj)
 {
     const PulseTrain train = PulseTrain::fromDocument(jsonObj, load());
-    const double period = train.totalPeriod();
-    m_dbSamplingRate = period > 0 ? waveformPoints(pulseStretches(train)) / period : 0;
-    return writeTrainWaveform(filePath, train);
+    Uint32 points = 0;
+    const bool written = writeTrainWaveform(filePath, train, points);
+    m_dbSamplingRate = points > 0 ? points / train.totalPeriod() : 0;
+    return written;
 }
 
 // Values outside the limits raise their warnings while a file is applied.
@@ -143,7 +147,7 @@ void MultiPulseEditor::slt_OpenBtnClicked()
 }
 
 // The setup goes under the name that was chosen, whatever its ending; a waveform file is written
-// beside a name that ends in ".json" alone.
+// beside a name that ends in ".json" alone, also when the setup could not be. No failure is shown.
 void MultiPulseEditor::slt_saveAsBtnClicked()
 {
     QString path;

@@ -5,7 +5,6 @@
 
 #include "thumbnailpicture.h"
 
-#include <QDebug>
 #include <QLabel>
 #include <QPixmap>
 
@@ -28,11 +27,4 @@ void MultiPulseEditor::slt_UpdateThumbnailImage(QPoint cell)
 void MultiPulseEditor::showThumbnail(const QString& fileName)
 {
     m_pMultiPulseThumbnail->setPixmap(QPixmap(ThumbnailPicture::path(fileName)));
-}
-
-void MultiPulseEditor::showUnmarkedThumbnail(const char* caller, int count)
-{
-    const QString fileName = ThumbnailPicture::unmarked(count);
-    qInfo() << caller << "fileName=" << ThumbnailPicture::path(fileName);
-    showThumbnail(fileName);
 }

@@ -117,8 +117,8 @@ void MultiPulseEditor::slt_HelpBtnClicked()
     // Another press opens the page anew instead of a second window.
     delete m_HelpDlg;
     const QString address = ContentPaths::helpPage();
-    qDebug() << "MultiPulseEditor::slt_HelpBtnClicked" << address;
     m_HelpDlg = createHelpWindow(address);
+    qDebug() << "MultiPulseEditor::slt_HelpBtnClicked" << address;
     connect(m_HelpDlg, &QObject::destroyed, this, [this] { m_HelpDlg = nullptr; });
     m_HelpDlg->show();
 }

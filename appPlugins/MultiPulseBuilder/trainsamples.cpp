@@ -90,18 +90,31 @@ Uint32 synthesise(const PulseTrain& train, double* buffer)
     return waveformPoints(stretches);
 }
 
-bool writeTrainWaveform(const char* filePath, const PulseTrain& train, double* buffer)
+bool writeTrainWaveform(const char* filePath, const PulseTrain& train, double* buffer,
+                        Uint32& points)
 {
-    const Uint32 points = synthesise(train, buffer);
+    points = synthesise(train, buffer);
     // The writer's signature takes a modifiable path and does not modify it.
     std::string path(filePath);
     appPlugins::CWaveformFileWriter writer;
     return writer.write(&path[0], points, train.fileAmplitude(), train.fileOffset(), buffer);
 }
 
-bool writeTrainWaveform(const char* filePath, const PulseTrain& train)
+bool writeTrainWaveform(const char* filePath, const PulseTrain& train, double* buffer)
+{
+    Uint32 points = 0;
+    return writeTrainWaveform(filePath, train, buffer, points);
+}
+
+bool writeTrainWaveform(const char* filePath, const PulseTrain& train, Uint32& points)
 {
     // Left uninitialised: synthesise() zeroes what it fills.
     const std::unique_ptr<double[]> buffer(new double[PointBudget]);
-    return writeTrainWaveform(filePath, train, buffer.get());
+    return writeTrainWaveform(filePath, train, buffer.get(), points);
+}
+
+bool writeTrainWaveform(const char* filePath, const PulseTrain& train)
+{
+    Uint32 points = 0;
+    return writeTrainWaveform(filePath, train, points);
 }

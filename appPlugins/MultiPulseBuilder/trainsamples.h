@@ -40,5 +40,10 @@ Uint32 synthesise(const PulseTrain& train, double* buffer);
 /// space. Returns false when the file could not be written; a partial file may remain.
 bool writeTrainWaveform(const char* filePath, const PulseTrain& train, double* buffer);
 
+/// The same, and tells the number of points that it has made.
+bool writeTrainWaveform(const char* filePath, const PulseTrain& train, double* buffer,
+                        Uint32& points);
+
 /// The same with a buffer of its own, allocated and freed within the call.
+bool writeTrainWaveform(const char* filePath, const PulseTrain& train, Uint32& points);
 bool writeTrainWaveform(const char* filePath, const PulseTrain& train);

@@ -21,9 +21,9 @@ namespace appPlugins {
 /// exec(). Its parent is a plain surface of the screen's size without a layout.
 ///
 /// Keys that reach the dialog itself act on release: Home, Back, Default, Utility, Help and Cancel
-/// reject it. To these and to Manual, which does nothing, whoever sent the event is answered false;
-/// every other key, and every press, is answered true. No key goes on to the parent: the way of an
-/// event ends at its window.
+/// reject it, and Manual does nothing; these are answered false, so that they go on to the host's
+/// surface whose child the dialog is. Every other key, and every press, is answered true and ends
+/// here.
 class APPPLUGINS_EXPORT WindowModalDialogWithMask : public QDialog
 {
     Q_OBJECT

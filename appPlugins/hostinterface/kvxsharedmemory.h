@@ -6,7 +6,7 @@
 #include <type_traits>
 
 /// The beginning of the shared-memory segment that the host creates and plug-ins attach to, one
-/// byte a flag. It is read and written under the segment's lock. The host may keep more behind it.
+/// byte a flag. They are written under the segment's lock. The host may keep more behind it.
 class KVXSharedMemory
 {
 public:

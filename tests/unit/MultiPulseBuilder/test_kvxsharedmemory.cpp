@@ -5,8 +5,6 @@
 
 #include <QtTest>
 
-#include <new>
-
 namespace {
 
 // Flags on top of memory that holds something else.

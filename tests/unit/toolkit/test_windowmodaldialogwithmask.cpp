@@ -3,101 +3,19 @@
 
 #include "windowmodaldialogwithmask.h"
 
-#include "frontpanel.h"
 #include "logcapture.h"
+#include "pluginwindow.h"
 
 #include <QCloseEvent>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 #include <QScreen>
 #include <QSignalSpy>
-#include <QTimer>
-#include <QVBoxLayout>
 #include <QtTest>
 
-#include <functional>
-
-using namespace appPlugins;
-
 namespace {
-
-// The host behind the dialog: two inputs, and the keys that nobody took before.
-class Host : public QWidget
-{
-public:
-    Host()
-        : field(new QLineEdit(this))
-        , other(new QLineEdit(this))
-    {
-        field->setObjectName(QStringLiteral("host field"));
-        auto* layout = new QVBoxLayout(this);
-        layout->addWidget(field);
-        layout->addWidget(other);
-    }
-
-    bool start()
-    {
-        show();
-        const bool active = QTest::qWaitForWindowActive(this);
-        field->setFocus();
-        FrontPanel::settle();
-        return active && field->hasFocus();
-    }
-
-    QLineEdit* field;
-    QLineEdit* other;
-    QList<int> pressed;
-    QList<int> released;
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override { pressed.append(event->key()); }
-    void keyReleaseEvent(QKeyEvent* event) override { released.append(event->key()); }
-};
-
-// A plug-in's window; the test looks into it when it starts and while it runs.
-class PluginWindow : public WindowModalDialogWithMask
-{
-public:
-    explicit PluginWindow(QWidget* parent)
-        : WindowModalDialogWithMask(parent)
-    {}
-
-    // The result of exec(); whoever leaves the window open in inside() rejects it.
-    int run(const std::function<void()>& inside)
-    {
-        QTimer::singleShot(0, this, [this, inside] {
-            FrontPanel::settle();
-            inside();
-            if (isVisible())
-                reject();
-        });
-        return exec();
-    }
-
-    void executeAtStartup() override
-    {
-        ++startups;
-        if (atStartup)
-            atStartup();
-    }
-
-    QLabel* mask() const { return findChild<QLabel*>(QStringLiteral("mask")); }
-    QLabel* content() const { return findChild<QLabel*>(QStringLiteral("m_pSubClassFillArea")); }
-
-    int startups = 0;
-    std::function<void()> atStartup;
-};
 
 QStringList withText(const char* text)
 {
     return LogCapture::messages().filter(QLatin1String(text));
-}
-
-bool answer(QWidget& widget, QEvent::Type type, int key)
-{
-    QKeyEvent event(type, key, Qt::NoModifier);
-    return QCoreApplication::sendEvent(&widget, &event);
 }
 
 } // namespace
@@ -122,16 +40,9 @@ private slots:
     void startsAnewForEachRun();
     void returnsItsResult_data();
     void returnsItsResult();
-    void keyOfTheFrontPanel_data();
-    void keyOfTheFrontPanel();
-    void answersKeys_data();
-    void answersKeys();
-    void pressMeansNothing_data();
-    void pressMeansNothing();
-    void releaseIsLogged_data();
-    void releaseIsLogged();
     void givesTheFocusBack();
     void givesTheFocusOfTheLatestRunBack();
+    void leavesTheFocusWhenItsOwnerIsHidden_data();
     void leavesTheFocusWhenItsOwnerIsHidden();
     void leavesTheFocusWhenItsOwnerIsDeleted();
     void leavesTheFocusWithoutARun();
@@ -142,7 +53,7 @@ private slots:
 
 void TestWindowModalDialogWithMask::isFramelessAndTranslucent()
 {
-    Host host;
+    HostWindow host;
     const PluginWindow window(&host);
     QVERIFY(window.testAttribute(Qt::WA_TranslucentBackground));
     QCOMPARE(window.windowFlags(), Qt::WindowFlags(Qt::Dialog | Qt::FramelessWindowHint));
@@ -246,7 +157,7 @@ void TestWindowModalDialogWithMask::geometryIsLogged()
 void TestWindowModalDialogWithMask::startsBeforeItIsShown()
 {
     const LogCapture log;
-    Host host;
+    HostWindow host;
     QVERIFY(host.start());
     PluginWindow window(&host);
     bool checked = false;
@@ -269,7 +180,7 @@ void TestWindowModalDialogWithMask::startsBeforeItIsShown()
 void TestWindowModalDialogWithMask::runsOnTopOfItsHost()
 {
     const LogCapture log;
-    Host host;
+    HostWindow host;
     QVERIFY(host.start());
     PluginWindow window(&host);
     bool checked = false;
@@ -297,7 +208,7 @@ void TestWindowModalDialogWithMask::keepsOtherWindowFlags()
 void TestWindowModalDialogWithMask::focusObjectIsLogged()
 {
     const LogCapture log;
-    Host host;
+    HostWindow host;
     QVERIFY(host.start());
     PluginWindow window(&host);
     window.run([] {});
@@ -319,7 +230,7 @@ void TestWindowModalDialogWithMask::noFocusObjectIsNotLogged()
 void TestWindowModalDialogWithMask::startsAnewForEachRun()
 {
     const LogCapture log;
-    Host host;
+    HostWindow host;
     QVERIFY(host.start());
     PluginWindow window(&host);
     for (int run = 1; run <= 3; ++run) {
@@ -356,164 +267,10 @@ void TestWindowModalDialogWithMask::returnsItsResult()
             QStringLiteral("info: WindowModalDialogWithMask::setFinished result=%1").arg(result)});
 }
 
-void TestWindowModalDialogWithMask::keyOfTheFrontPanel_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<bool>("closes");
-
-    const auto row = [](const char* name, int key, bool closes) {
-        QTest::newRow(name) << key << closes;
-    };
-    row("Home", 735, true);
-    row("Back", 736, true);
-    row("Default", 729, true);
-    row("Utility", 730, true);
-    row("Help", 738, true);
-    row("Cancel", Qt::Key_Cancel, true);
-    row("Manual", 731, false);
-    row("channel 1", 725, false);
-    row("knob", 732, false);
-    row("minus", 737, false);
-    row("nano", 705, false);
-    row("base unit", 734, false);
-    row("digit", Qt::Key_5, false);
-    row("Return", Qt::Key_Return, false);
-    row("Enter", Qt::Key_Enter, false);
-    row("Escape", Qt::Key_Escape, false);
-    row("blank", Qt::Key_Space, false);
-    row("Up", Qt::Key_Up, false);
-}
-
-// The key arrives where the focus is: at the content, which has no use for it.
-void TestWindowModalDialogWithMask::keyOfTheFrontPanel()
-{
-    QFETCH(int, key);
-    QFETCH(bool, closes);
-
-    const LogCapture log;
-    Host host;
-    QVERIFY(host.start());
-    PluginWindow window(&host);
-    QSignalSpy finished(&window, &QDialog::finished);
-    QSignalSpy rejected(&window, &QDialog::rejected);
-    const int result = window.run([&] {
-        QCOMPARE(FrontPanel::receiver(), window.content());
-        FrontPanel::post(QEvent::KeyPress, key);
-        FrontPanel::settle();
-        QVERIFY(window.isVisible());
-        QVERIFY(!window.getFinished());
-
-        FrontPanel::post(QEvent::KeyRelease, key);
-        FrontPanel::settle();
-        QCOMPARE(window.isVisible(), !closes);
-        QCOMPARE(window.getFinished(), closes);
-        if (!closes)
-            window.accept();
-    });
-    QCOMPARE(result, int(closes ? QDialog::Rejected : QDialog::Accepted));
-    QCOMPARE(finished.count(), 1);
-    QCOMPARE(rejected.count(), closes ? 1 : 0);
-    QVERIFY(host.pressed.isEmpty());
-    QVERIFY(host.released.isEmpty());
-}
-
-void TestWindowModalDialogWithMask::answersKeys_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<bool>("released");
-    for (const int key : {729, 730, 731, 735, 736, 738, int(Qt::Key_Cancel)})
-        QTest::addRow("%d", key) << key << false;
-    for (const int key : {705, 709, 713, 725, 732, 734, 737, int(Qt::Key_A), int(Qt::Key_Escape),
-                          int(Qt::Key_Return), int(Qt::Key_Tab)})
-        QTest::addRow("%d", key) << key << true;
-}
-
-void TestWindowModalDialogWithMask::answersKeys()
-{
-    QFETCH(int, key);
-
-    const LogCapture log;
-    PluginWindow window(nullptr);
-    QVERIFY(answer(window, QEvent::KeyPress, key));
-    QTEST(answer(window, QEvent::KeyRelease, key), "released");
-}
-
-void TestWindowModalDialogWithMask::pressMeansNothing_data()
-{
-    QTest::addColumn<int>("key");
-    // What a press of them means in other dialogs: reject, click the default button, next input.
-    QTest::newRow("Escape") << int(Qt::Key_Escape);
-    QTest::newRow("Return") << int(Qt::Key_Return);
-    QTest::newRow("Enter") << int(Qt::Key_Enter);
-    QTest::newRow("Tab") << int(Qt::Key_Tab);
-    QTest::newRow("Backtab") << int(Qt::Key_Backtab);
-    QTest::newRow("Home") << int(QT_KEY_HOME);
-}
-
-void TestWindowModalDialogWithMask::pressMeansNothing()
-{
-    QFETCH(int, key);
-
-    const LogCapture log;
-    PluginWindow window(nullptr);
-    window.setGeometry(0, 0, 300, 200);
-    auto* button = new QPushButton(window.content());
-    button->setDefault(true);
-    auto* input = new QLineEdit(window.content());
-    input->move(0, 100);
-    QSignalSpy clicked(button, &QPushButton::clicked);
-    bool checked = false;
-    window.run([&] {
-        input->setFocus();
-        QVERIFY(input->hasFocus());
-        QVERIFY(answer(window, QEvent::KeyPress, key));
-        FrontPanel::settle();
-        QVERIFY(window.isVisible());
-        QVERIFY(input->hasFocus());
-        checked = true;
-    });
-    QVERIFY(checked);
-    QCOMPARE(clicked.count(), 0);
-}
-
-void TestWindowModalDialogWithMask::releaseIsLogged_data()
-{
-    QTest::addColumn<int>("key");
-    QTest::addColumn<QStringList>("levels");
-    const QStringList known{QStringLiteral("info")};
-    const QStringList unknown{QStringLiteral("info"), QStringLiteral("debug")};
-    QTest::newRow("Home") << int(QT_KEY_HOME) << known;
-    QTest::newRow("Cancel") << int(Qt::Key_Cancel) << known;
-    QTest::newRow("Manual") << int(QT_KEY_MANUAL) << known;
-    QTest::newRow("digit") << int(Qt::Key_7) << unknown;
-    QTest::newRow("channel 1") << int(QT_KEY_CH1ON) << unknown;
-}
-
-void TestWindowModalDialogWithMask::releaseIsLogged()
-{
-    QFETCH(int, key);
-    QFETCH(QStringList, levels);
-
-    const LogCapture log;
-    PluginWindow window(nullptr);
-    answer(window, QEvent::KeyPress, key);
-    QVERIFY(LogCapture::messages().isEmpty());
-
-    answer(window, QEvent::KeyRelease, key);
-    const QStringList lines = withText("WindowModalDialogWithMask::event");
-    QCOMPARE(lines.size(), levels.size());
-    QVERIFY(lines.first().startsWith(
-        QLatin1String("info: WindowModalDialogWithMask::event QKeyEvent(KeyRelease")));
-    if (lines.size() == 2) {
-        QVERIFY(lines.last().startsWith(QLatin1String(
-            "debug: WindowModalDialogWithMask::event keyRelease QKeyEvent(KeyRelease")));
-    }
-}
-
 void TestWindowModalDialogWithMask::givesTheFocusBack()
 {
     const LogCapture log;
-    Host host;
+    HostWindow host;
     QVERIFY(host.start());
     PluginWindow window(&host);
     window.run([&] {
@@ -530,7 +287,7 @@ void TestWindowModalDialogWithMask::givesTheFocusBack()
 void TestWindowModalDialogWithMask::givesTheFocusOfTheLatestRunBack()
 {
     const LogCapture log;
-    Host host;
+    HostWindow host;
     QVERIFY(host.start());
     PluginWindow window(&host);
     window.run([] {});
@@ -541,25 +298,35 @@ void TestWindowModalDialogWithMask::givesTheFocusOfTheLatestRunBack()
     QCOMPARE(host.focusWidget(), host.other);
 }
 
+void TestWindowModalDialogWithMask::leavesTheFocusWhenItsOwnerIsHidden_data()
+{
+    QTest::addColumn<bool>("wholePage");
+    QTest::newRow("itself") << false;
+    QTest::newRow("with its page") << true;
+}
+
 void TestWindowModalDialogWithMask::leavesTheFocusWhenItsOwnerIsHidden()
 {
+    QFETCH(bool, wholePage);
+
     const LogCapture log;
-    Host host;
+    HostWindow host;
     QVERIFY(host.start());
     PluginWindow window(&host);
+    QWidget* hidden = wholePage ? host.page : host.field;
     window.run([&] {
-        host.field->hide();
+        hidden->hide();
         host.other->setFocus();
     });
     QCOMPARE(host.focusWidget(), host.other);
-    host.field->show();
+    hidden->show();
     QCOMPARE(host.focusWidget(), host.other);
 }
 
 void TestWindowModalDialogWithMask::leavesTheFocusWhenItsOwnerIsDeleted()
 {
     const LogCapture log;
-    Host host;
+    HostWindow host;
     QVERIFY(host.start());
     PluginWindow window(&host);
     window.run([&] {
@@ -574,7 +341,7 @@ void TestWindowModalDialogWithMask::leavesTheFocusWhenItsOwnerIsDeleted()
 void TestWindowModalDialogWithMask::leavesTheFocusWithoutARun()
 {
     const LogCapture log;
-    Host host;
+    HostWindow host;
     QVERIFY(host.start());
     PluginWindow window(&host);
     window.show();
