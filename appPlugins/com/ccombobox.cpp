@@ -50,6 +50,9 @@ const QString CComboBox::m_strSelfStyleSheet =
 CComboBox::CComboBox(QWidget* parent)
     : QComboBox(parent)
 {
+    // First: below a widget with a sheet of its own, a font or delegate that is set before the sheet
+    // makes the list that is created for it lose its rules.
+    setStyleSheet(m_strSelfStyleSheet);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setFocusPolicy(Qt::ClickFocus);
     // The row of a form gives the width, not the longest text of a list or of the language before.
@@ -57,7 +60,6 @@ CComboBox::CComboBox(QWidget* parent)
     setFont(Look::textFont());
     // The height of the list's items, which the default delegate of a combo box does not honour.
     setItemDelegate(new QStyledItemDelegate(this));
-    setStyleSheet(m_strSelfStyleSheet);
     // Above and below the list, the window that it stands in shows; no sheet reaches it.
     QPalette dark = view()->window()->palette();
     dark.setColor(QPalette::Base, QColor(30, 30, 30));

@@ -143,7 +143,7 @@ QString complaint(const CommandLine& line, const SweepPlan& plan)
     return plan.wrong;
 }
 
-QJsonArray rowsOf(const QJsonObject& document)
+QJsonArray storedRows(const QJsonObject& document)
 {
     const QJsonObject stored = document.value(SetupKey::MultiplePulses).toObject();
     return stored.value(SetupKey::WidthGap).toArray();
@@ -153,7 +153,7 @@ QJsonArray rowsOf(const QJsonObject& document)
 QJsonObject withWidth(QJsonObject document, int row, const QString& width)
 {
     QJsonObject stored = document.value(SetupKey::MultiplePulses).toObject();
-    QJsonArray rows = rowsOf(document);
+    QJsonArray rows = storedRows(document);
     QJsonObject cells = rows.at(row).toObject();
     cells.insert(SetupKey::Width, width);
     rows.replace(row, cells);
@@ -302,7 +302,7 @@ int runSweep(const QStringList& arguments, Streams& streams)
     const QString refused = readSetup(line.arguments().constFirst(), streams, document);
     if (!refused.isEmpty())
         return failed(refused, ExitInput, streams);
-    const int rows = rowsOf(document).size();
+    const int rows = storedRows(document).size();
     if (pulseOf(line) > rows)
         return failed(QStringLiteral("%1: multiple pulses.width/gap: %2 rows, no pulse %3")
                           .arg(printable(line.arguments().constFirst()))
