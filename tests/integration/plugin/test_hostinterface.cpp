@@ -256,6 +256,6 @@ void TestHostInterface::pluginAnswersBySlot()
     loader.unload();
 }
 
-QTEST_GUILESS_MAIN(TestHostInterface)
+QTEST_MAIN(TestHostInterface)
 
 #include "test_hostinterface.moc"

@@ -292,9 +292,11 @@ void TestPluginLoading::showIdentifiesTheInstrument()
     const QString model = QLatin1String(QTest::currentDataTag());
     const QString row =
         (model + QLatin1Char(' ') + cells).split(QLatin1Char(' ')).join(QStringLiteral("\", \""));
-    QCOMPARE(log, (QStringList{QStringLiteral("warning: device type \"%1\"").arg(model),
-                               QStringLiteral("warning: g_currentDeviceType (\"%1\")").arg(row),
-                               QStringLiteral("0")}));
+    // Then comes what the window says of itself.
+    QCOMPARE(log.mid(0, 2),
+             (QStringList{QStringLiteral("warning: device type \"%1\"").arg(model),
+                          QStringLiteral("warning: g_currentDeviceType (\"%1\")").arg(row)}));
+    QCOMPARE(log.last(), QStringLiteral("0"));
     QVERIFY(server.waitForGone(1));
     QCOMPARE(server.received(), QByteArray("*IDN?\n"));
     QVERIFY(PluginHost::warnings().isEmpty());
@@ -308,7 +310,8 @@ void TestPluginLoading::showWithoutInstrumentWarnsOnce()
     QCOMPARE(PluginHost::warnings(),
              QStringList(
                  QStringLiteral("TcpSocket connect error! port:30000, reason:Connection refused")));
-    QCOMPARE(log, QStringList(QStringLiteral("0")));
+    QCOMPARE(log.last(), QStringLiteral("0"));
+    QVERIFY(log.filter(QStringLiteral("warning:")).isEmpty());
     QVERIFY(CAppInterface::getCurrent() == m_pPlugin);
 }
 
@@ -346,6 +349,6 @@ void TestPluginLoading::emptyCallbackThrows()
     QVERIFY(CAppInterface::getCurrent() == nullptr);
 }
 
-QTEST_GUILESS_MAIN(TestPluginLoading)
+QTEST_MAIN(TestPluginLoading)
 
 #include "test_pluginloading.moc"
