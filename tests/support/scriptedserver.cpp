@@ -46,6 +46,18 @@ void ScriptedServer::sendNextPiece()
     m_changed.notify_all();
 }
 
+void ScriptedServer::answer(const QByteArray& line, const QByteArray& reply)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_answers.insert(line, reply);
+}
+
+void ScriptedServer::closeAfter(int count)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_nCloseAt = m_received.size() + count;
+}
+
 QByteArray ScriptedServer::received() const
 {
     const std::lock_guard<std::mutex> lock(m_mutex);
@@ -97,7 +109,7 @@ void ScriptedServer::run(quint16 port)
         return;
     }
     while (!isStopping()) {
-        if (!server.waitForNewConnection(PollMs))
+        if (!server.hasPendingConnections() && !server.waitForNewConnection(PollMs))
             continue;
         const std::unique_ptr<QTcpSocket> client(server.nextPendingConnection());
         serveClient(*client);
@@ -111,15 +123,17 @@ void ScriptedServer::serveClient(QTcpSocket& client)
         ++m_nAccepted;
     }
     while (m_manner == Serve && client.state() == QAbstractSocket::ConnectedState &&
-           !isStopping()) {
+           !isStopping() && roomLeft() > 0) {
         client.waitForReadyRead(PollMs);
-        collect(client.readAll());
-        if (!answerLines(client))
+        collect(client.read(qMin<qint64>(client.bytesAvailable(), roomLeft())));
+        if (roomLeft() > 0 && !answerLines(client))
             break;
     }
     client.close();
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
+        if (m_received.size() >= m_nCloseAt)
+            m_nCloseAt = NoLimit;
         ++m_nGone;
     }
     m_changed.notify_all();
@@ -134,16 +148,41 @@ void ScriptedServer::collect(const QByteArray& bytes)
     m_changed.notify_all();
 }
 
+int ScriptedServer::roomLeft() const
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    return m_nCloseAt - m_received.size();
+}
+
+// The next line that is not answered yet; empty if none is whole.
+QByteArray ScriptedServer::takeLine()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    const int start = m_nTaken;
+    const int end = m_received.indexOf('\n', start);
+    if (end < 0)
+        return QByteArray();
+    m_nTaken = end + 1;
+    return m_received.mid(start, m_nTaken - start);
+}
+
+ScriptedServer::Turn ScriptedServer::turnOf(const QByteArray& line)
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    if (m_nLinesAnswered < m_script.size())
+        return m_script.at(m_nLinesAnswered++);
+    const auto reply = m_answers.constFind(line);
+    return reply == m_answers.constEnd() ? Turn() : Turn{{*reply}, false};
+}
+
 // False when the script says that the connection is to be closed.
 bool ScriptedServer::answerLines(QTcpSocket& client)
 {
-    for (; m_nLinesAnswered < received().count('\n'); ++m_nLinesAnswered) {
-        const Turn turn = m_script.value(m_nLinesAnswered);
+    for (QByteArray line = takeLine(); !line.isEmpty(); line = takeLine()) {
+        const Turn turn = turnOf(line);
         sendPieces(client, turn);
-        if (turn.closeAfterwards) {
-            ++m_nLinesAnswered;
+        if (turn.closeAfterwards)
             return false;
-        }
     }
     return true;
 }

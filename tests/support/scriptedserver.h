@@ -4,9 +4,11 @@
 #pragma once
 
 #include <QByteArray>
+#include <QHash>
 #include <QVector>
 
 #include <condition_variable>
+#include <limits>
 #include <mutex>
 #include <thread>
 
@@ -43,6 +45,14 @@ public:
     /// Lets the turn under way send its next piece.
     void sendNextPiece();
 
+    /// Answers every line that reads @p line, line feed included, and has no turn left in the
+    /// script.
+    void answer(const QByteArray& line, const QByteArray& reply);
+
+    /// Closes the connection, without an answer, once @p count more bytes than until now have been
+    /// read, and reads nothing behind them; with 0 as soon as the next client is accepted.
+    void closeAfter(int count);
+
     /// All bytes that all clients sent until now.
     QByteArray received() const;
 
@@ -61,8 +71,13 @@ private:
     void collect(const QByteArray& bytes);
     bool answerLines(QTcpSocket& client);
     void sendPieces(QTcpSocket& client, const Turn& turn);
+    QByteArray takeLine();
+    Turn turnOf(const QByteArray& line);
+    int roomLeft() const;
     bool isStopping() const;
     void setReady();
+
+    static const int NoLimit = std::numeric_limits<int>::max();
 
     QVector<Turn> m_script;
     Manner m_manner;
@@ -70,6 +85,9 @@ private:
     mutable std::mutex m_mutex;
     mutable std::condition_variable m_changed;
     QByteArray m_received;
+    QHash<QByteArray, QByteArray> m_answers;
+    int m_nCloseAt = NoLimit; // bytes that have been received by then
+    int m_nTaken = 0;         // bytes of the lines that have had their turn
     int m_nLinesAnswered = 0;
     int m_nPiecesAllowed = 0;
     int m_nAccepted = 0;
