@@ -1,37 +1,22 @@
 // SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
 // SPDX-License-Identifier: MIT
 
+#include "editorparts.h"
 #include "editorsession.h"
 
 #include "cstackedcombocomponents.h"
-#include "cswitchlabel.h"
-#include "frontpanelkeys.h"
-#include "testtranslator.h"
 
-#include <QAction>
 #include <QComboBox>
-#include <QHeaderView>
+#include <QHash>
 #include <QLabel>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QStackedWidget>
-#include <QTextBrowser>
-#include <QToolButton>
-
-#include <algorithm>
 
 using namespace appPlugins;
+using namespace EditorParts;
 
 namespace {
-
-const QVector<EditorHost::Action> AllActions = {EditorHost::Open,   EditorHost::Close,
-                                                EditorHost::SaveAs, EditorHost::Default,
-                                                EditorHost::Help,   EditorHost::Run};
-
-const QStringList ActionTextIds = {
-    QStringLiteral("ARBID_OPEN"),     QStringLiteral("ARBID_CLOSE"),
-    QStringLiteral("STR_ID_SAVE_AS"), QStringLiteral("DBID_POWERON_STATE_DEFAULT_SETTING"),
-    QStringLiteral("STR_ID_HELP"),    QStringLiteral("STR_UTILITY_RUN")};
 
 const QString MainStyleSheet = QStringLiteral(
     "QLabel[objectName=\"title\"]{color:rgb(255,255,255);padding-left:15px;"
@@ -44,94 +29,14 @@ const QString MainStyleSheet = QStringLiteral(
     "QToolBar{background-color: #1e1e1e;}\n"
     "QLabel{background-color:#2e2e2e;}\n");
 
-// The bar is laid out for the 640 by 480 that the window has before the host gives it a size.
-const QString ToolBarStyleSheet = QStringLiteral(
-    "QToolBar{border-radius:1px; background-color:#1E1E1E;spacing:-15.1px;}"
-    "QToolButton{padding-top:4px; padding-bottom:4px; width:88.0px;height:88.0px;margin-left:1px; "
-    "margin-right:1px; border:none;font-size:15px;color:#cabc9f;font-family:\"Noto Sans medium\";}"
-    "QToolButton:pressed{background-color:#3478f7; color:#ffffff;}"
-    "QToolButton:disabled{color:#3f3f3f;}");
-
-QLabel* label(const EditorHost& host, const char* name)
-{
-    return host.editor()->findChild<QLabel*>(QLatin1String(name));
-}
-
-QString titleOf(const QWidget* component)
-{
-    return component->findChild<CSwitchLabel*>()->findChild<QLabel*>()->text();
-}
-
-// The unit is the row's one plain label.
-QString unitOf(const QWidget* component)
-{
-    for (const QLabel* part :
-         component->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly)) {
-        if (part->metaObject() == &QLabel::staticMetaObject)
-            return part->text();
-    }
-    return QStringLiteral("no label");
-}
-
-QStringList choices(const ComboBoxCombComponent* component)
-{
-    const auto* box = component->findChild<QComboBox*>();
-    QStringList texts;
-    for (int i = 0; i < box->count(); ++i)
-        texts.append(box->itemText(i));
-    return texts;
-}
-
-QString headerText(const QTableView* table, int column)
-{
-    return table->model()->headerData(column, Qt::Horizontal).toString();
-}
-
 QString cornerText(const QTableView* table)
 {
     return table->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly)->text();
 }
 
-QStringList actionTexts(const EditorHost& host)
-{
-    QStringList texts;
-    for (const EditorHost::Action action : AllActions)
-        texts.append(host.action(action)->text());
-    return texts;
-}
-
-QImage imageOf(const QString& fileName)
-{
-    const QImage image(InstalledContent::PictureFolder + fileName);
-    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
-
-QImage iconImage(const QIcon& icon, const QSize& size, QIcon::Mode mode, QIcon::State state)
-{
-    return icon.pixmap(size, mode, state)
-        .toImage()
-        .convertToFormat(QImage::Format_ARGB32_Premultiplied);
-}
-
-QList<QWidget*> helpWindows()
-{
-    QList<QWidget*> windows;
-    for (QWidget* window : QApplication::topLevelWidgets()) {
-        if (window->findChild<QTextBrowser*>(QString(), Qt::FindDirectChildrenOnly) != nullptr)
-            windows.append(window);
-    }
-    return windows;
-}
-
-bool writeHelpPage(const QByteArray& html)
-{
-    QDir().mkpath(InstalledContent::PictureFolder);
-    QFile page(InstalledContent::PictureFolder + QLatin1String("DoublePulseHelpFile.html"));
-    return page.open(QIODevice::WriteOnly) && page.write(html) == html.size();
-}
-
 } // namespace
 
+/// What an editor shows when it is new.
 class TestEditorWindow : public QObject
 {
     Q_OBJECT
@@ -148,26 +53,8 @@ private Q_SLOTS:
     void choicesStartAtTheFirst();
     void sourceSelectsThePageOfTheStack();
 
-    void toolBarPlaceAndLook();
-    void actionsInOrder();
-    void runAloneIsCheckable();
-    void iconsAreTheInstalledPictures();
-    void editorWithoutPictures();
-
     void tableAtStart();
     void scrollBarOnlyWhereRowsDoNotFit();
-
-    void helpShowsThePage();
-    void helpDeletesItselfOnClose();
-    void helpPressedAgain();
-    void helpWithoutAPage();
-
-    void closeWhileStopped();
-    void closeWhileShownAsRunning();
-    void closeSlotWhileRunning();
-    void closeWhileRunningWithoutAParent();
-
-    void languageChange();
 };
 
 void TestEditorWindow::initTestCase()
@@ -342,103 +229,6 @@ void TestEditorWindow::sourceSelectsThePageOfTheStack()
     });
 }
 
-void TestEditorWindow::toolBarPlaceAndLook()
-{
-    const EditorSession session;
-    const QToolBar* bar = session.host.toolBar();
-    QCOMPARE(bar->parentWidget(), session.host.editor());
-    QCOMPARE(bar->geometry(), QRect(0, 411, 640, 70));
-    QCOMPARE(bar->iconSize(), QSize(42, 42));
-    QCOMPARE(bar->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
-    QCOMPARE(bar->styleSheet(), ToolBarStyleSheet);
-}
-
-void TestEditorWindow::actionsInOrder()
-{
-    EditorSession session;
-    const EditorHost& host = session.host;
-    QCOMPARE(actionTexts(host), ActionTextIds);
-
-    session.exec([&] {
-        QVector<QWidget*> widgets;
-        for (const QAction* action : host.toolBar()->actions())
-            widgets.append(host.toolBar()->widgetForAction(const_cast<QAction*>(action)));
-        QCOMPARE(widgets.size(), 7);
-        QCOMPARE(widgets.at(5)->metaObject(), &QWidget::staticMetaObject);
-        widgets.remove(5);
-        for (int i = 0; i < widgets.size(); ++i) {
-            const auto* button = qobject_cast<QToolButton*>(widgets.at(i));
-            QVERIFY(button != nullptr);
-            QCOMPARE(button->defaultAction(), host.action(AllActions.at(i)));
-            QCOMPARE(button->toolButtonStyle(), Qt::ToolButtonTextUnderIcon);
-            QVERIFY(button->isVisible());
-            if (i > 0)
-                QVERIFY(screenPlace(button).x() > screenPlace(widgets.at(i - 1)).x());
-        }
-        // All of Run is on the bar, apart from the rest.
-        const QWidget* run = host.button(EditorHost::Run);
-        QCOMPARE(run->mapTo(host.toolBar(), run->rect().bottomRight()).x(),
-                 host.toolBar()->width() - 1);
-        const auto distance = [&](EditorHost::Action left, EditorHost::Action right) {
-            return screenPlace(host.button(right)).x() - screenPlace(host.button(left)).x();
-        };
-        QVERIFY(distance(EditorHost::Help, EditorHost::Run) >
-                distance(EditorHost::Default, EditorHost::Help));
-    });
-}
-
-void TestEditorWindow::runAloneIsCheckable()
-{
-    const EditorSession session;
-    for (const EditorHost::Action action : AllActions) {
-        QCOMPARE(session.host.action(action)->isCheckable(), action == EditorHost::Run);
-        QCOMPARE(session.host.button(action)->isCheckable(), action == EditorHost::Run);
-        QVERIFY(!session.host.action(action)->isChecked());
-        QVERIFY(!session.host.button(action)->isChecked());
-        QVERIFY(session.host.action(action)->isEnabled());
-        QCOMPARE(session.host.action(action)->parent(), session.host.editor());
-    }
-}
-
-void TestEditorWindow::iconsAreTheInstalledPictures()
-{
-    const EditorSession session;
-    const QStringList pictures = {QStringLiteral("open"), QStringLiteral("close"),
-                                  QStringLiteral("save"), QStringLiteral("default"),
-                                  QStringLiteral("help"), QStringLiteral("run")};
-    for (int i = 0; i < pictures.size(); ++i) {
-        const QIcon icon = session.host.action(AllActions.at(i))->icon();
-        const QImage normal = imageOf(pictures.at(i) + QLatin1String(".png"));
-        QVERIFY(!normal.isNull());
-        QCOMPARE(iconImage(icon, normal.size(), QIcon::Normal, QIcon::Off), normal);
-
-        const bool hasDisabledPicture = i < 4;
-        QCOMPARE(icon.availableSizes(QIcon::Disabled, QIcon::Off).isEmpty(), !hasDisabledPicture);
-        if (hasDisabledPicture) {
-            const QImage disabled = imageOf(pictures.at(i) + QLatin1String("_d.png"));
-            QVERIFY(!disabled.isNull() && disabled != normal);
-            QCOMPARE(iconImage(icon, disabled.size(), QIcon::Disabled, QIcon::Off), disabled);
-        }
-    }
-
-    const QIcon run = session.host.action(EditorHost::Run)->icon();
-    const QImage stop = imageOf(QStringLiteral("stop.png"));
-    QCOMPARE(iconImage(run, stop.size(), QIcon::Normal, QIcon::On), stop);
-    QVERIFY(stop != imageOf(QStringLiteral("run.png")));
-}
-
-void TestEditorWindow::editorWithoutPictures()
-{
-    QVERIFY(QDir(InstalledContent::AppFolder).removeRecursively());
-    EditorSession session;
-    session.exec([&] {
-        QCOMPARE(actionTexts(session.host), ActionTextIds);
-        QVERIFY(session.host.button(EditorHost::Run)->isVisible());
-    });
-    QVERIFY(EditorHost::record().warnings.isEmpty());
-    QVERIFY(InstalledContent::install());
-}
-
 void TestEditorWindow::tableAtStart()
 {
     const EditorSession session;
@@ -473,195 +263,6 @@ void TestEditorWindow::scrollBarOnlyWhereRowsDoNotFit()
         QVERIFY(bar->isVisible());
         QVERIFY(!host.table()->horizontalScrollBar()->isVisible());
     });
-}
-
-void TestEditorWindow::helpShowsThePage()
-{
-    QVERIFY(writeHelpPage("<html><body><p>How to pulse.</p></body></html>"));
-    EditorSession session;
-    session.exec([&] {
-        FrontPanel::tap(session.host.button(EditorHost::Help));
-        QCOMPARE(helpWindows().size(), 1);
-        const QWidget* help = helpWindows().first();
-        QVERIFY(help->isVisible() && help->isWindow());
-        QVERIFY(help->parent() == nullptr);
-        QVERIFY(help->testAttribute(Qt::WA_DeleteOnClose));
-        QCOMPARE(help->windowModality(), Qt::NonModal);
-        QCOMPARE(help->size(), QSize(680, 432));
-
-        const auto* title = help->findChild<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
-        const auto* browser = help->findChild<QTextBrowser*>();
-        const auto* button = help->findChild<QPushButton*>(QString(), Qt::FindDirectChildrenOnly);
-        QCOMPARE(title->text(), QStringLiteral("Double Pulse Help"));
-        QCOMPARE(browser->toPlainText(), QStringLiteral("How to pulse."));
-        QCOMPARE(button->text(), QStringLiteral("ARBID_CLOSE"));
-        QVERIFY(title->geometry().bottom() < browser->geometry().top());
-        QVERIFY(browser->geometry().bottom() < button->geometry().top());
-        QVERIFY(help->rect().contains(button->geometry()));
-    });
-    QVERIFY(LogCapture::messages().contains(
-        QStringLiteral("debug: MultiPulseEditor::slt_HelpBtnClicked "
-                       "\"/mnt/user-data/.app/libDoublePulsePluginPics/"
-                       "DoublePulseHelpFile.html\"")));
-}
-
-void TestEditorWindow::helpDeletesItselfOnClose()
-{
-    EditorSession session;
-    session.exec([&] {
-        FrontPanel::tap(session.host.button(EditorHost::Help));
-        const QPointer<QWidget> help = helpWindows().value(0);
-        QVERIFY(help != nullptr);
-        FrontPanel::tap(help->findChild<QPushButton*>(QString(), Qt::FindDirectChildrenOnly));
-        QVERIFY(help.isNull());
-        QVERIFY(helpWindows().isEmpty());
-        QVERIFY(session.host.editor()->isVisible());
-
-        FrontPanel::tap(session.host.button(EditorHost::Help));
-        QCOMPARE(helpWindows().size(), 1);
-    });
-}
-
-void TestEditorWindow::helpPressedAgain()
-{
-    QVERIFY(writeHelpPage("<p>First</p>"));
-    EditorSession session;
-    session.exec([&] {
-        FrontPanel::tap(session.host.button(EditorHost::Help));
-        const QPointer<QWidget> first = helpWindows().value(0);
-        QVERIFY(writeHelpPage("<p>Second</p>"));
-        FrontPanel::tap(session.host.button(EditorHost::Help));
-        QCOMPARE(helpWindows().size(), 1);
-        QVERIFY(first.isNull());
-        const auto* browser = helpWindows().first()->findChild<QTextBrowser*>();
-        QCOMPARE(browser->toPlainText(), QStringLiteral("Second"));
-        QVERIFY(helpWindows().first()->isVisible());
-    });
-}
-
-void TestEditorWindow::helpWithoutAPage()
-{
-    QFile::remove(InstalledContent::PictureFolder + QLatin1String("DoublePulseHelpFile.html"));
-    EditorSession session;
-    session.exec([&] {
-        FrontPanel::tap(session.host.button(EditorHost::Help));
-        QCOMPARE(helpWindows().size(), 1);
-        QCOMPARE(helpWindows().first()->findChild<QTextBrowser*>()->toPlainText(), QString());
-    });
-    QVERIFY(EditorHost::record().warnings.isEmpty());
-}
-
-void TestEditorWindow::closeWhileStopped()
-{
-    EditorSession session;
-    const KeyWitness keys(session.host.surface());
-    bool closed = false;
-    QCOMPARE(session.exec([&] {
-        FrontPanel::tap(session.host.button(EditorHost::Close));
-        closed = !session.host.editor()->isVisible();
-    }),
-             0);
-    QVERIFY(closed);
-    QVERIFY(keys.pressed.isEmpty() && keys.released.isEmpty());
-}
-
-// A run that got no further than its start leaves Close enabled.
-void TestEditorWindow::closeWhileShownAsRunning()
-{
-    EditorSession session({}, "KVX7010C", EditorHost::WithoutSegment);
-    const EditorHost& host = session.host;
-    const KeyWitness keys(host.surface());
-    session.exec([&] {
-        FrontPanel::tap(host.button(EditorHost::Run));
-        QVERIFY(host.button(EditorHost::Run)->isChecked());
-        FrontPanel::tap(host.button(EditorHost::Close));
-        QVERIFY(!host.button(EditorHost::Run)->isChecked());
-        QVERIFY(host.editor()->isVisible());
-        QVERIFY(keys.pressed.isEmpty());
-        QCOMPARE(keys.released, QVector<int>{QT_KEY_HOME});
-        QCOMPARE(keys.modifiers, Qt::KeyboardModifiers(Qt::KeypadModifier));
-
-        FrontPanel::tap(host.button(EditorHost::Close));
-        QVERIFY(!host.editor()->isVisible());
-        QCOMPARE(keys.released.size(), 1);
-    });
-}
-
-void TestEditorWindow::closeSlotWhileRunning()
-{
-    EditorSession session(InstrumentScript::run() + InstrumentScript::stop());
-    const EditorHost& host = session.host;
-    const KeyWitness keys(host.surface());
-    session.exec([&] {
-        FrontPanel::tap(host.button(EditorHost::Run));
-        QVERIFY(host.action(EditorHost::Run)->isChecked());
-        QVERIFY(session.server.received().contains("OUTP1 ON \n"));
-
-        // The button is disabled meanwhile.
-        FrontPanel::tap(host.button(EditorHost::Close));
-        QVERIFY(host.action(EditorHost::Run)->isChecked());
-        QVERIFY(host.editor()->isVisible());
-        QVERIFY(keys.released.isEmpty());
-
-        QVERIFY(QMetaObject::invokeMethod(host.editor(), "slt_closeBtnClicked"));
-        QVERIFY(!host.action(EditorHost::Run)->isChecked());
-        QVERIFY(session.server.received().endsWith("OUTP1 OFF \n*RST \n*IDN? \n"));
-        FrontPanel::settle();
-        QVERIFY(host.editor()->isVisible());
-        QVERIFY(keys.pressed.isEmpty());
-        QCOMPARE(keys.released, QVector<int>{QT_KEY_HOME});
-        QCOMPARE(keys.modifiers, Qt::KeyboardModifiers(Qt::KeypadModifier));
-    });
-    QVERIFY(EditorHost::record().warnings.isEmpty());
-}
-
-void TestEditorWindow::closeWhileRunningWithoutAParent()
-{
-    const LogCapture log;
-    const ScriptedServer server(InstrumentScript::reset());
-    EditorHost host(EditorHost::WithoutSegment);
-    host.exec([&] {
-        QVERIFY(host.editor()->isWindow());
-        host.action(EditorHost::Run)->trigger();
-        QVERIFY(host.action(EditorHost::Run)->isChecked());
-        host.action(EditorHost::Close)->trigger();
-        FrontPanel::settle();
-        QVERIFY(!host.action(EditorHost::Run)->isChecked());
-        QVERIFY(host.editor()->isVisible());
-    });
-    // Without a parent it would stay for the next host.
-    delete host.editor();
-}
-
-void TestEditorWindow::languageChange()
-{
-    EditorSession session;
-    const EditorHost& host = session.host;
-    session.exec([&] {
-        const TestTranslator german(QStringLiteral("de:"));
-        FrontPanel::settle();
-        QCOMPARE(titleOf(host.count()), QStringLiteral("de:STR_ID_PULSES_NUMS"));
-        QCOMPARE(titleOf(host.highLevel()), QStringLiteral("de:STR_ID_HIGH_LEVEL"));
-        QCOMPARE(titleOf(host.slope()), QStringLiteral("de:DBID_TRIGGER_SLOPE"));
-        QCOMPARE(titleOf(host.timer()), QStringLiteral("de:SEQID_TIMER"));
-        QCOMPARE(unitOf(host.delay()), QStringLiteral("de:ARBID_UNIT_S"));
-        QCOMPARE(choices(host.source()),
-                 (QStringList{QStringLiteral("de:STR_ID_MANUAL"),
-                              QStringLiteral("de:DBID_TRIGGER_SOURCE_EXTERNAL"),
-                              QStringLiteral("de:SEQID_TIMER")}));
-        QCOMPARE(choices(host.load()),
-                 (QStringList{QStringLiteral("de:STR_ID_50"), QStringLiteral("de:STR_ID_HI_Z")}));
-        QCOMPARE(headerText(host.table(), 0), QStringLiteral("de:STR_ID_WIDTHS"));
-        QCOMPARE(headerText(host.table(), 1), QStringLiteral("de:STR_ID_GAPS"));
-
-        QCOMPARE(actionTexts(host), ActionTextIds);
-        for (const EditorHost::Action action : AllActions)
-            QCOMPARE(host.button(action)->text(), ActionTextIds.at(action));
-        QCOMPARE(label(host, "title")->text(), QStringLiteral("STR_ID_MULTIPLE_PULSES"));
-    });
-    // The catalogue has gone with its translator.
-    FrontPanel::settle();
-    QCOMPARE(titleOf(host.count()), QStringLiteral("STR_ID_PULSES_NUMS"));
 }
 
 QTEST_MAIN(TestEditorWindow)
