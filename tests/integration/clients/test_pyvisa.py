@@ -46,7 +46,7 @@ class VisaTest(unittest.TestCase):
         done = bench.run(bench.PROGRAMS / "mpwv", "render", bench.EXAMPLES / example, "-o", path)
         self.assertEqual(done.returncode, 0, done.stderr)
         for command in ('FUNC:EFIL "M:/train.mpwv"', "FUNC EFILe", "BURS ON", "BURS:NCYC 1",
-                        "OUTP1:IMP 10000", "FREQ 25 kHz", "OUTP1 ON", "*TRG"):
+                        "OUTP1:IMP 10000", "FREQ 25 kHz", "TRIG:SOUR EXT", "OUTP1 ON", "*TRG"):
             self.visa.write(command)
         self.assertEqual(self.errors(), [])
         return bench.Waveform(path)

@@ -19,6 +19,7 @@ namespace Output {
 const QString WaveformPath = QStringLiteral("/mnt/user-data/run.mpwv");
 const QString RunText = QStringLiteral("STR_UTILITY_RUN");
 const QString StopText = QStringLiteral("STR_ID_SWEEP_STOP");
+const QString Unlocked = QStringLiteral("info: App run, shared memory unlocked");
 
 /// What the editor sends for the train that it starts with, closing query included.
 inline QByteArrayList runCommands()
@@ -60,6 +61,19 @@ inline bool waveformExists()
 {
     return QFile::exists(WaveformPath);
 }
+
+/// The flags as another program sees them: discard keys, block SCPI.
+inline QPair<bool, bool> flagsFromOutside()
+{
+    QSharedMemory segment(QLatin1String(KVXSharedMemory::Key));
+    if (!segment.attach(QSharedMemory::ReadOnly))
+        return {false, false};
+    const auto* bytes = static_cast<const char*>(segment.constData());
+    return {bytes[0] == 1, bytes[1] == 1};
+}
+
+const QPair<bool, bool> BothSet = {true, true};
+const QPair<bool, bool> NoneSet = {false, false};
 
 /// The controls that the output takes part in, by name, in the order of the window.
 inline QVector<QPair<QString, bool>> controls(const EditorHost& host)
@@ -141,6 +155,18 @@ inline State stopped()
 inline State running()
 {
     return {true, StopText, lockedControls()};
+}
+
+/// The warnings of the log, but for the one that belongs to every waveform file.
+inline QStringList warningsLogged(int first)
+{
+    QStringList found;
+    for (const QString& message : LogCapture::messages().mid(first)) {
+        if (message.startsWith(QLatin1String("warning: ")) &&
+            !message.startsWith(QLatin1String("warning: headerWrite")))
+            found.append(message);
+    }
+    return found;
 }
 
 } // namespace Output
