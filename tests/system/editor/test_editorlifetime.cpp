@@ -16,6 +16,8 @@
 #include <cstdlib>
 #include <memory>
 
+#include <dlfcn.h>
+
 using namespace appPlugins;
 using namespace EditorParts;
 
@@ -71,6 +73,8 @@ void unload(QPluginLoader& loader)
     if (!loader.unload())
         qFatal("plug-in: %s", qPrintable(loader.errorString()));
     std::printf("window %s\n", window.isNull() ? "gone" : "left");
+    if (dlopen(qPrintable(pluginPath()), RTLD_LAZY | RTLD_NOLOAD) != nullptr)
+        std::printf("library resident\n");
 }
 
 void runWindow()
@@ -195,7 +199,13 @@ void TestEditorLifetime::processEnds()
     const QByteArray errors = host.readAllStandardError();
     QVERIFY2(host.exitStatus() == QProcess::NormalExit, errors.constData());
     QCOMPARE(host.exitCode(), CarelessHost::OrderlyExit);
-    QCOMPARE(QString::fromLocal8Bit(host.readAllStandardOutput()), printed);
+    const QString output = QString::fromLocal8Bit(host.readAllStandardOutput());
+#ifdef __SANITIZE_ADDRESS__
+    // The sanitizer's unique symbols keep a library in the process.
+    if (output.endsWith(QLatin1String("library resident\n")))
+        QSKIP("This build's library cannot be unloaded.");
+#endif
+    QCOMPARE(output, printed);
 }
 
 int main(int argc, char** argv)
