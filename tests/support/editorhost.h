@@ -59,8 +59,8 @@ public:
 
     /// Loads the plug-in and hands the callbacks over; nothing is shown yet.
     explicit EditorHost(Segment segment = WithSegment);
-    /// Lets what is queued happen. The plug-in stays loaded, as Qt has it by default, and so does an
-    /// editor that no show() has given a parent.
+    /// Lets what is queued happen. The plug-in stays loaded, as Qt has it by default, and so does
+    /// an editor that no show() has given a parent.
     ~EditorHost();
 
     /// Has the plug-in show its window on the whole screen.
