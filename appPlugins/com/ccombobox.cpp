@@ -50,8 +50,8 @@ const QString CComboBox::m_strSelfStyleSheet =
 CComboBox::CComboBox(QWidget* parent)
     : QComboBox(parent)
 {
-    // First: below a widget with a sheet of its own, a font or delegate that is set before the sheet
-    // makes the list that is created for it lose its rules.
+    // First: below a widget with a sheet of its own, a font or delegate that is set before the
+    // sheet makes the list that is created for it lose its rules.
     setStyleSheet(m_strSelfStyleSheet);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setFocusPolicy(Qt::ClickFocus);
