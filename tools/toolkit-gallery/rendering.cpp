@@ -20,6 +20,12 @@ QRgb coarser(QRgb colour, int bits)
     return qRgb(channel(qRed(colour)), channel(qGreen(colour)), channel(qBlue(colour)));
 }
 
+// A line of a picture with 32 bits for each pixel. QImage aligns it for them, which its type hides.
+const QRgb* pixelsOf(const QImage& picture, int y)
+{
+    return static_cast<const QRgb*>(static_cast<const void*>(picture.constScanLine(y)));
+}
+
 // The picture with every channel's lowest bits cleared; a null picture for too many colours.
 QImage indexed(const QImage& picture, int bits)
 {
@@ -27,7 +33,7 @@ QImage indexed(const QImage& picture, int bits)
     QVector<QRgb> palette;
     QHash<QRgb, int> indices;
     for (int y = 0; y < picture.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(picture.constScanLine(y));
+        const QRgb* line = pixelsOf(picture, y);
         uchar* target = result.scanLine(y);
         for (int x = 0; x < picture.width(); ++x) {
             const QRgb colour = coarser(line[x], bits);

@@ -75,7 +75,8 @@ int pixelsLike(const QImage& image, const QColor& colour)
     };
     int count = 0;
     for (int y = 0; y < image.height(); ++y) {
-        const auto* line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        const void* const pixels = image.constScanLine(y); // aligned for its pixels
+        const auto* line = static_cast<const QRgb*>(pixels);
         count += int(std::count_if(line, line + image.width(), isNear));
     }
     return count;
