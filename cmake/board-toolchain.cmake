@@ -8,8 +8,8 @@ set(CMAKE_SYSTEM_NAME Linux)
 set(CMAKE_SYSTEM_PROCESSOR armv7l)
 set(CMAKE_CXX_COMPILER arm-linux-gnueabihf-g++)
 
-set(CMAKE_SYSROOT "${CMAKE_CURRENT_LIST_DIR}/../build/board/sysroot")
-cmake_path(NORMAL_PATH CMAKE_SYSROOT)
+cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH CMAKE_SYSROOT)
+string(APPEND CMAKE_SYSROOT "/build/board/sysroot")
 if(NOT EXISTS "${CMAKE_SYSROOT}/contents")
     message(FATAL_ERROR "there is no ${CMAKE_SYSROOT}; script/setup --board makes it")
 endif()
@@ -24,3 +24,6 @@ set(CMAKE_CROSSCOMPILING_EMULATOR qemu-arm-static -L "${CMAKE_SYSROOT}")
 # This compiler notes wherever its calling convention differs from that of its version 6, by which
 # nothing here is compiled.
 set(CMAKE_CXX_FLAGS_INIT -Wno-psabi)
+
+# The libraries find each other from where they stand, in whichever folder that is.
+set(CMAKE_BUILD_RPATH_USE_ORIGIN ON)
