@@ -194,7 +194,7 @@ void TestEditorLifetime::processEnds()
     QFETCH(QString, manner);
     QFETCH(QString, printed);
     QProcess host;
-    host.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--host"), manner});
+    host.start(QCoreApplication::arguments().constFirst(), {QStringLiteral("--host"), manner});
     QVERIFY(host.waitForFinished(60000));
     const QByteArray errors = host.readAllStandardError();
     QVERIFY2(host.exitStatus() == QProcess::NormalExit, errors.constData());
