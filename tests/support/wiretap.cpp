@@ -16,15 +16,19 @@ const int PatienceMs = 10000;
 
 Wiretap* g_pTap = nullptr;
 
+// An address of that family, for which every socket address is aligned.
+template<typename Address>
+const Address* as(const sockaddr* address)
+{
+    return static_cast<const Address*>(static_cast<const void*>(address));
+}
+
 bool isInstrument(const sockaddr* address)
 {
-    if (address->sa_family == AF_INET) {
-        return reinterpret_cast<const sockaddr_in*>(address)->sin_port ==
-               htons(Wiretap::InstrumentPort);
-    }
-    return address->sa_family == AF_INET6 &&
-           reinterpret_cast<const sockaddr_in6*>(address)->sin6_port ==
-               htons(Wiretap::InstrumentPort);
+    const quint16 port = htons(Wiretap::InstrumentPort);
+    if (address->sa_family == AF_INET)
+        return as<sockaddr_in>(address)->sin_port == port;
+    return address->sa_family == AF_INET6 && as<sockaddr_in6>(address)->sin6_port == port;
 }
 
 bool leadsToInstrument(int socket)
