@@ -26,7 +26,7 @@ private:
         program.start(QString::fromLocal8Bit(qgetenv("MPB_BIN_DIR")) +
                           QStringLiteral("/toolkit-gallery"),
                       arguments);
-        if (!program.waitForFinished(280000) || program.exitStatus() != QProcess::NormalExit)
+        if (!program.waitForFinished(-1) || program.exitStatus() != QProcess::NormalExit)
             return {-1, {}, program.errorString()};
         return {program.exitCode(), QString::fromUtf8(program.readAllStandardOutput()),
                 QString::fromUtf8(program.readAllStandardError())};
