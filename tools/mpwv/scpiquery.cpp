@@ -48,33 +48,6 @@ QString readWhile(InstrumentLink& link, const QByteArray& query, QByteArray& byt
 
 } // namespace
 
-BlockState parseBlock(const QByteArray& bytes, QByteArray& data)
-{
-    const int headBytes = 2;
-    if (!bytes.isEmpty() && bytes.at(0) != '#')
-        return BlockState::Malformed;
-    if (bytes.size() < headBytes)
-        return BlockState::Incomplete;
-    const int digits = bytes.at(1) - '0';
-    if (digits < 1 || digits > 9)
-        return BlockState::Malformed;
-
-    const QByteArray length = bytes.mid(headBytes, digits);
-    for (const char digit : length) {
-        if (digit < '0' || digit > '9')
-            return BlockState::Malformed;
-    }
-    if (length.size() < digits)
-        return BlockState::Incomplete;
-    const qint64 announced = length.toLongLong();
-    if (announced > MaxBlockBytes)
-        return BlockState::Malformed;
-    if (bytes.size() - headBytes - digits < announced)
-        return BlockState::Incomplete;
-    data = bytes.mid(headBytes + digits, int(announced));
-    return BlockState::Complete;
-}
-
 QString askLine(InstrumentLink& link, const QByteArray& query, QByteArray& reply)
 {
     if (!link.send(query))

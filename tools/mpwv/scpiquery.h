@@ -3,29 +3,17 @@
 
 #pragma once
 
+#include "scpiblock.h"
+
 #include <QByteArray>
 #include <QString>
 
 class InstrumentLink;
 
-/// Queries over a link to the instrument, and the forms that replies come in.
+/// Queries over a link to the instrument.
 
 /// A longest reply of one line; what is longer is no reply to anything asked here.
 const int MaxLineBytes = 64 * 1024;
-
-/// Most bytes of data that a block may announce: those of the longest waveform, and some.
-const qint64 MaxBlockBytes = 4194304;
-
-enum class BlockState {
-    Incomplete, ///< more bytes are needed
-    Complete,
-    Malformed, ///< no definite-length block, or one that is too long
-};
-
-/// Takes an IEEE 488.2 definite-length block ("#", the number of digits of the length, the length,
-/// the data) from the beginning of @p bytes; what follows it is ignored. @p data is filled when the
-/// block is complete.
-BlockState parseBlock(const QByteArray& bytes, QByteArray& data);
 
 /// Sends @p query, which ends in a line feed, and reads up to the line feed of the reply, in
 /// however many pieces it comes. Returns an empty text and fills @p reply (without its line end),

@@ -8,16 +8,11 @@
 
 #include <QtTest>
 
-Q_DECLARE_METATYPE(BlockState)
-
 class TestScpiQuery : public QObject
 {
     Q_OBJECT
 
 private slots:
-    void block_data();
-    void block();
-    void everyPieceOfABlock();
     void line_data();
     void line();
     void lineWithoutEnd();
@@ -30,53 +25,6 @@ private slots:
     void noReply();
     void shown();
 };
-
-void TestScpiQuery::block_data()
-{
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<BlockState>("state");
-    QTest::addColumn<QByteArray>("data");
-    const auto row = [](const char* name, const QByteArray& bytes, BlockState state,
-                        const QByteArray& data = QByteArray("untouched")) {
-        QTest::newRow(name) << bytes << state << data;
-    };
-    row("nothing", "", BlockState::Incomplete);
-    row("begin", "#", BlockState::Incomplete);
-    row("length missing", "#2", BlockState::Incomplete);
-    row("length incomplete", "#21", BlockState::Incomplete);
-    row("data missing", "#210", BlockState::Incomplete);
-    row("data incomplete", "#13ab", BlockState::Incomplete);
-    row("complete", "#13abc", BlockState::Complete, "abc");
-    row("line feed behind", "#13abc\n", BlockState::Complete, "abc");
-    row("line feed inside", "#13a\nc\n", BlockState::Complete, "a\nc");
-    row("no data", "#10\n", BlockState::Complete, "");
-    row("leading zeros", "#9000000001x", BlockState::Complete, "x");
-    row("no block", "1.5", BlockState::Malformed);
-    row("indefinite", "#0abc", BlockState::Malformed);
-    row("digits no digit", "#x", BlockState::Malformed);
-    row("length no number", "#2a", BlockState::Malformed);
-    row("length negative", "#2-1", BlockState::Malformed);
-    row("longer than any trace", "#9999999999", BlockState::Malformed);
-}
-
-void TestScpiQuery::block()
-{
-    QFETCH(QByteArray, bytes);
-    QFETCH(BlockState, state);
-    QFETCH(QByteArray, data);
-    QByteArray read("untouched");
-    QCOMPARE(parseBlock(bytes, read), state);
-    QCOMPARE(read, data);
-}
-
-void TestScpiQuery::everyPieceOfABlock()
-{
-    const QByteArray whole = "#212hello\nworld\n";
-    QByteArray data;
-    for (int length = 0; length < 4 + 12; ++length)
-        QCOMPARE(parseBlock(whole.left(length), data), BlockState::Incomplete);
-    QCOMPARE(parseBlock(whole, data), BlockState::Complete);
-}
 
 void TestScpiQuery::line_data()
 {
