@@ -1,0 +1,90 @@
+// SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
+// SPDX-License-Identifier: MIT
+
+#include "panelprogram.h"
+
+#include "common/fontsubstitution.h"
+#include "panellanguages.h"
+#include "panellook.h"
+#include "paneloptions.h"
+#include "panelwindow.h"
+#include "serversignals.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QSettings>
+#include <QStyleFactory>
+#include <QTextStream>
+#include <QToolTip>
+
+#include <memory>
+
+namespace {
+
+const int PictureWidth = 1280;
+const int PictureHeight = 860;
+
+void dress()
+{
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    substituteTextFont();
+    QApplication::setPalette(PanelLook::palette());
+    QToolTip::setPalette(PanelLook::palette());
+    QApplication::setFont(PanelLook::font(13));
+    QIcon icon;
+    for (const char* const size : {"32", "64", "256"})
+        icon.addFile(QStringLiteral(":/kvx-panel/icon-%1.png").arg(QLatin1String(size)));
+    QApplication::setWindowIcon(icon);
+}
+
+QString firstLanguage(const PanelOptions& options, const QSettings* settings)
+{
+    if (!options.language.isEmpty())
+        return options.language;
+    const QString kept =
+        settings == nullptr ? QString() : settings->value(QStringLiteral("language")).toString();
+    return PanelLanguages::all().contains(kept) ? kept : PanelLanguages::ofLocale(QLocale().name());
+}
+
+int refuse(QTextStream& err, const QString& reason)
+{
+    err << "kvx-panel: " << reason << '\n';
+    err.flush();
+    return PanelUsage;
+}
+
+} // namespace
+
+int runPanel(const PanelOptions& options, QTextStream& out, QTextStream& err)
+{
+    dress();
+    const QString folder =
+        options.translations.isEmpty()
+            ? PanelLanguages::defaultFolder(QCoreApplication::applicationDirPath())
+            : options.translations;
+    std::unique_ptr<QSettings> settings;
+    if (options.keepsSettings)
+        settings = std::make_unique<QSettings>(QSettings::IniFormat, QSettings::UserScope,
+                                               QStringLiteral("multi-pulse-builder"),
+                                               QStringLiteral("kvx-panel"));
+    PanelLanguages languages(folder);
+    if (!languages.install(firstLanguage(options, settings.get())))
+        return refuse(err, QStringLiteral("there are no texts in %1").arg(folder));
+    PanelWindow window(options, languages, settings.get());
+    QObject::connect(&window, &PanelWindow::screenShown, &window, [&out] {
+        out << "ready\n";
+        out.flush();
+    });
+    const ServerSignals endSignals;
+    QObject::connect(&endSignals, &ServerSignals::endRequested, &window, &QWidget::close);
+    QObject::connect(&endSignals, &ServerSignals::endRequested, qApp, &QCoreApplication::quit);
+    window.start();
+    // A picture is to be the same whatever the size of the desktop.
+    if (!options.picture.isEmpty())
+        window.resize(PictureWidth, PictureHeight);
+    window.show();
+    const int code = QApplication::exec();
+    if (!options.picture.isEmpty() && !window.grab().save(options.picture, "PNG"))
+        return refuse(err, QStringLiteral("--picture %1: cannot be written").arg(options.picture));
+    return code;
+}
