@@ -23,3 +23,14 @@ fail() {
 binary_folder() {
     if [ "$1" = release ]; then echo build/bin; else echo "build/$1/bin"; fi
 }
+
+# package_sources RELEASE FOLDER: writes where this machine fetches Debian's packages of a release to
+# FOLDER/sources, and how (a proxy, for example) to FOLDER/apt.conf.
+package_sources() {
+    # shellcheck disable=SC2016 # apt-get fills these in
+    apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' \
+        'Created-By: Packages' 'Origin: Debian' "Release: $1" >"$2/sources"
+    [ -s "$2/sources" ] ||
+        fail 1 "apt has no package list of Debian's $1 here; apt-get update fetches it"
+    apt-config dump | grep '^Acquire::' | grep -v '^Acquire::IndexTargets' >"$2/apt.conf" || true
+}
