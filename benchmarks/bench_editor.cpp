@@ -5,11 +5,10 @@
 // loaded by a host, and a server on the instrument's port reads at once. It needs a world of its
 // own and the content in it.
 
+#include "benchinstrument.h"
 #include "benchsetup.h"
 #include "editorhost.h"
 #include "pulsetrain.h"
-#include "runsequence.h"
-#include "scriptedserver.h"
 #include "trainsamples.h"
 
 #include <QAction>
@@ -20,7 +19,6 @@
 #include <QJsonDocument>
 
 #include <benchmark/benchmark.h>
-#include <memory>
 #include <vector>
 
 namespace {
@@ -31,33 +29,9 @@ const int Rounds = 25;
 
 void dropLog(QtMsgType, const QMessageLogContext&, const QString&) {}
 
-// Answers the identification queries alone: the one of show(), which exec()'s reset follows, and
-// those that end each Run and Stop.
-std::unique_ptr<ScriptedServer> instrument(int shows, int runs)
-{
-    const ScriptedServer::Turn answer{{"MAKER,KVX7010X,0,1.0\n"}, false};
-    const ScriptedServer::Turn silence{};
-    const int runCommands = RunSequence::runCommands(PulseTrain()).size();
-    QVector<ScriptedServer::Turn> script;
-    for (int i = 0; i < shows; ++i)
-        script << answer << silence;
-    for (int i = 0; i < runs; ++i) {
-        script += QVector<ScriptedServer::Turn>(runCommands, silence);
-        script << answer << silence << silence << answer;
-    }
-    return std::make_unique<ScriptedServer>(script);
-}
-
-// Until the widget and all in it are on the screen.
-void paint(QWidget* widget)
-{
-    widget->repaint();
-    QCoreApplication::processEvents();
-}
-
 void showToFirstFrame(benchmark::State& state)
 {
-    const auto server = instrument(Rounds, 0);
+    const auto server = benchmarkInstrument(Rounds, 0);
     for (auto round : state) {
         Q_UNUSED(round)
         EditorHost host;
@@ -73,7 +47,7 @@ void showToFirstFrame(benchmark::State& state)
 
 void openSetup(benchmark::State& state)
 {
-    const auto server = instrument(1, 0);
+    const auto server = benchmarkInstrument(1, 0);
     EditorHost host;
     host.show();
     EditorHost::record().browserResult = 1;
@@ -89,7 +63,7 @@ void openSetup(benchmark::State& state)
 
 void runPress(benchmark::State& state)
 {
-    const auto server = instrument(1, Rounds);
+    const auto server = benchmarkInstrument(1, Rounds);
     EditorHost host;
     host.show();
     EditorHost::record().browserResult = 1;
@@ -130,36 +104,6 @@ void runCalculationAndFile(benchmark::State& state)
     }
 }
 
-double residentMiB()
-{
-    QFile file(QStringLiteral("/proc/self/statm"));
-    if (!file.open(QIODevice::ReadOnly))
-        return 0;
-    return file.readAll().split(' ').value(1).toDouble() * 4096 / (1024 * 1024);
-}
-
-// Above a host that has shown its empty screen.
-void reportMemory()
-{
-    const auto server = instrument(1, 0);
-    {
-        QWidget empty;
-        empty.setGeometry(0, 0, 800, 480);
-        empty.show();
-        paint(&empty);
-    }
-    const double before = residentMiB();
-    EditorHost host;
-    host.show();
-    host.exec([&] {
-        paint(host.editor());
-        std::printf(
-            "memory of the loaded plug-in with its editor shown: %.1f MiB above %.1f MiB of "
-            "an empty host\n",
-            residentMiB() - before, before);
-    });
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -172,7 +116,6 @@ int main(int argc, char** argv)
         return 1;
     setup.close();
 
-    reportMemory();
     benchmark::RegisterBenchmark("show to first frame", showToFirstFrame)
         ->UseManualTime()
         ->Iterations(Rounds)
