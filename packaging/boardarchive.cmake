@@ -42,7 +42,8 @@ if(libraries_size GREATER libraries_limit)
         "the libraries have ${libraries_size} bytes, more than ${libraries_limit}")
 endif()
 file(WRITE "${staged}/FILES" "${list}")
-file(WRITE "${staged}/SHA256SUMS" "${sums}")
+file(SHA256 "${staged}/FILES" sum)
+file(WRITE "${staged}/SHA256SUMS" "${sums}${sum}  FILES\n")
 file(WRITE "${CPACK_PACKAGE_DIRECTORY}/${CPACK_PACKAGE_FILE_NAME}.files" "${list}")
 
 # One thread: how xz divides a file among several shows in the bytes.

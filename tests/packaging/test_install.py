@@ -84,6 +84,7 @@ class Installer(unittest.TestCase):
             self.write(image / path, content)
             sums += f"{hashlib.sha256(content.encode()).hexdigest()}  {path}\n"
             sizes += f"{len(content)} {path}\n"
+        sums += f"{hashlib.sha256(sizes.encode()).hexdigest()}  FILES\n"
         self.write(image / "SHA256SUMS", sums)
         self.write(image / "FILES", sizes)
         shutil.copy(INSTALLER, image)
@@ -262,6 +263,10 @@ class TestRefusing(Installer):
 
     def test_damaged_archive(self):
         self.write(self.image / "lib/libappPlugins.so", "toolkit l")
+        self.refuse("is damaged")
+
+    def test_shortened_list(self):
+        self.write(self.image / "FILES", (self.image / "FILES").read_text().split("\n")[0])
         self.refuse("is damaged")
 
     def test_incomplete_archive(self):
