@@ -1,0 +1,21 @@
+// SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
+// SPDX-License-Identifier: MIT
+
+#pragma once
+
+#include <QLabel>
+
+/// One line of text on the host's pages. Too long a text ends in dots; it lets touches through.
+class TextLabel : public QLabel
+{
+    Q_OBJECT
+
+public:
+    TextLabel(int pixels, const QColor& color, QWidget* parent);
+
+    void setBold(bool bold);
+    void setColor(const QColor& color);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+};
