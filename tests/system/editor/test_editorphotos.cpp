@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
 // SPDX-License-Identifier: MIT
 
-#include "../gallery/picturedifference.h"
 #include "common/fontsubstitution.h"
+#include "common/picturedifference.h"
 #include "editorhost.h"
 #include "logcapture.h"
 #include "scriptedserver.h"

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
 // SPDX-License-Identifier: MIT
 
-#include "picturedifference.h"
+#include "common/picturedifference.h"
 
 #include <QPainter>
 #include <QTest>
