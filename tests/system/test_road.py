@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
 # SPDX-License-Identifier: MIT
-"""The whole road that script/run shows: setup, waveform file, command server, played pulses, plot.
+"""The whole road that script/play shows: setup, waveform file, command server, played pulses, plot.
 
 What the programs say about the pulses is held against the example's own numbers and against a reading
 of the waveform file that shares no code with them.
@@ -49,7 +49,7 @@ class RoadTest(unittest.TestCase):
             self.assertNotEqual(client.connect_ex(("127.0.0.1", 30000)), 0, "somebody listens")
 
     def run_road(self, *options):
-        return bench.run(bench.SOURCE / "script/run", "--no-build", "--output", self.output,
+        return bench.run(bench.SOURCE / "script/play", "--no-build", "--output", self.output,
                          *options, env={**os.environ, "MPB_IN_WORLD": "1"})
 
     def check_road(self, name, *options):
