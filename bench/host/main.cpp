@@ -4,6 +4,7 @@
 #include "hostapplication.h"
 #include "hostprogram.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QTextStream>
 #include <QtPlugin>
@@ -24,19 +25,18 @@ int takeStandardOutput()
     return own < 0 || ::dup2(STDERR_FILENO, STDOUT_FILENO) < 0 ? -1 : own;
 }
 
-QStringList argumentsOf(int argc, char** argv)
+// Read before the application of the screen is there: the platform depends on it, and texts and
+// errors need none.
+QString readCommandLine(int argc, char** argv, HostOptions& options)
 {
-    QStringList arguments;
-    for (int i = 0; i < argc; ++i)
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    return arguments;
+    const QCoreApplication application(argc, argv);
+    return readHostOptions(QCoreApplication::arguments(), QStringLiteral(MPB_VERSION), options);
 }
 
 int run(int& argc, char** argv, QTextStream& out, QTextStream& err)
 {
     HostOptions options;
-    const QString error =
-        readHostOptions(argumentsOf(argc, argv), QStringLiteral(MPB_VERSION), options);
+    const QString error = readCommandLine(argc, argv, options);
     if (!error.isEmpty()) {
         err << "kvx-host: " << error << '\n';
         return HostUsage;

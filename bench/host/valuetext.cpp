@@ -10,7 +10,7 @@
 namespace {
 
 const int ShortDecimals = 3;
-const int MostDecimals = 9;
+const int MostDecimals = 6;
 
 struct Scaled
 {

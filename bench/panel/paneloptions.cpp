@@ -30,7 +30,9 @@ void declareOptions(QCommandLineParser& parser)
          tr("30000")},
         {tr("language"), tr("Language of the panel: en, de, zh_CN or ja."), tr("LANGUAGE")},
         {tr("translations"), tr("Folder of the texts."), tr("FOLDER")},
-        {tr("picture"), tr("Leave a picture of the front in FILE, a .png, at the end."),
+        {tr("picture"),
+         tr("Leave a picture of the front in FILE, a .png: with the last burst, or else at the "
+            "end."),
          tr("FILE")},
         {tr("no-settings"), tr("Neither read nor keep the window's place and the language.")},
     });

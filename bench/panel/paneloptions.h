@@ -14,7 +14,7 @@ struct PanelOptions
     quint16 instrumentPort = 30000;
     QString language;     ///< empty: the one used last, or the locale's
     QString translations; ///< folder; empty: the usual one
-    QString picture;      ///< file for a picture of the front at the end; empty: none
+    QString picture;      ///< file for a picture of the front; empty: none
     bool keepsSettings = true;
     QString text; ///< where it is not empty, to be printed instead of running
 };

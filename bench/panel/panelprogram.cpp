@@ -15,6 +15,7 @@
 #include <QSettings>
 #include <QStyleFactory>
 #include <QTextStream>
+#include <QTimer>
 #include <QToolTip>
 
 #include <memory>
@@ -45,6 +46,39 @@ QString firstLanguage(const PanelOptions& options, const QSettings* settings)
         settings == nullptr ? QString() : settings->value(QStringLiteral("language")).toString();
     return PanelLanguages::all().contains(kept) ? kept : PanelLanguages::ofLocale(QLocale().name());
 }
+
+/// Keeps a picture of the front, if one is asked for: with the last burst seen, or else as the
+/// front is at the end.
+class PictureKeeper : public QObject
+{
+public:
+    PictureKeeper(PanelWindow& window, const QString& path)
+        : m_window(window)
+        , m_strPath(path)
+    {
+        // The lamp and the host's screen follow the burst by a moment.
+        m_timer.setSingleShot(true);
+        m_timer.setInterval(FollowMs);
+        connect(&window, &PanelWindow::burstShown, &m_timer, qOverload<>(&QTimer::start));
+        connect(&m_timer, &QTimer::timeout, this, [this] { m_picture = m_window.grab(); });
+    }
+
+    /// False when the picture cannot be written.
+    bool save()
+    {
+        if (m_strPath.isEmpty())
+            return true;
+        return (m_picture.isNull() ? m_window.grab() : m_picture).save(m_strPath, "PNG");
+    }
+
+private:
+    static const int FollowMs = 200;
+
+    PanelWindow& m_window;
+    QString m_strPath;
+    QTimer m_timer;
+    QPixmap m_picture;
+};
 
 int refuse(QTextStream& err, const QString& reason)
 {
@@ -82,9 +116,10 @@ int runPanel(const PanelOptions& options, QTextStream& out, QTextStream& err)
     // A picture is to be the same whatever the size of the desktop.
     if (!options.picture.isEmpty())
         window.resize(PictureWidth, PictureHeight);
+    PictureKeeper keeper(window, options.picture);
     window.show();
     const int code = QApplication::exec();
-    if (!options.picture.isEmpty() && !window.grab().save(options.picture, "PNG"))
+    if (!keeper.save())
         return refuse(err, QStringLiteral("--picture %1: cannot be written").arg(options.picture));
     return code;
 }

@@ -96,6 +96,10 @@ void PanelWindow::connectLinks()
     follow(StatusStrip::Instrument, m_watch);
     connect(&m_screen, &RfbScreen::connected, this, &PanelWindow::showScreenState);
     connect(&m_screen, &RfbScreen::gone, this, &PanelWindow::showScreenState);
+    connect(&m_watch, &ChannelWatch::traceChanged, this, [this] {
+        if (!m_watch.trace().isEmpty())
+            Q_EMIT burstShown();
+    });
     connect(&m_watch, &ChannelWatch::modelChanged, this, &PanelWindow::retranslate);
     connect(&m_watch, &ChannelWatch::outputChanged, m_face, &FrontFace::setOutputOn);
     connect(m_face->screenView(), &ScreenView::painted, this, [this] {

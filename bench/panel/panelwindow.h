@@ -43,6 +43,8 @@ public:
 Q_SIGNALS:
     /// The first whole picture of the host's screen has been painted.
     void screenShown();
+    /// The trace area has a new burst of channel 1.
+    void burstShown();
 
 protected:
     void changeEvent(QEvent* event) override;

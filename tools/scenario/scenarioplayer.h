@@ -58,6 +58,7 @@ private:
     QString strike(const QStringList& keys);
     QString type(const Statement& statement);
     QString savePicture(const Statement& statement);
+    QString pause(const Statement& statement);
     QString savePlot(const Statement& statement);
     QString saveFile(const Statement& statement);
 

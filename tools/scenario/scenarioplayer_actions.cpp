@@ -33,6 +33,8 @@ QString ScenarioPlayer::performAction(const Statement& statement)
         return type(statement);
     case Statement::Picture:
         return savePicture(statement);
+    case Statement::Pause:
+        return pause(statement);
     case Statement::Plot:
         return savePlot(statement);
     default:
@@ -141,6 +143,12 @@ QString ScenarioPlayer::savePicture(const Statement& statement)
     if (failure.isEmpty() && !m_desk.picture(picture))
         failure = m_desk.trouble();
     return failure.isEmpty() ? writePicture(picture, statement.name) : failure;
+}
+
+QString ScenarioPlayer::pause(const Statement& statement)
+{
+    m_desk.wait(qRound(statement.seconds * 1000));
+    return settled();
 }
 
 QString ScenarioPlayer::savePlot(const Statement& statement)

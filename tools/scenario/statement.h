@@ -52,6 +52,7 @@ struct Statement
         ExpectFile,      ///< the user-data folder has: name
         ExpectNoFile,    ///< it has not
         Picture,         ///< leaves a picture of the screen: name
+        Pause,           ///< rests: seconds
         Plot,            ///< leaves a plot of what channel 1 put out: name
         Save             ///< copies from the user-data folder: name, destinationName
     };
@@ -71,5 +72,5 @@ struct Statement
     State state = Enabled;
     int count = 1;
     QRect area;
-    double seconds = DefaultSeconds; ///< time limit; the duration of Hold
+    double seconds = DefaultSeconds; ///< time limit; the duration of Hold and Pause
 };

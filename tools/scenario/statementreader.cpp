@@ -8,13 +8,21 @@
 #include <QRegularExpression>
 
 const StatementReader::Verb StatementReader::sm_verbs[] = {
-    {"step", &StatementReader::readStep},       {"language", &StatementReader::readLanguage},
-    {"touch", &StatementReader::readTouch},     {"hold", &StatementReader::readHold},
-    {"drag", &StatementReader::readDrag},       {"turn", &StatementReader::readTurn},
-    {"key", &StatementReader::readKey},         {"type", &StatementReader::readType},
-    {"number", &StatementReader::readNumber},   {"expect", &StatementReader::readExpect},
-    {"picture", &StatementReader::readPicture}, {"plot", &StatementReader::readPlot},
-    {"save", &StatementReader::readSave},       {nullptr, nullptr}};
+    {"step", &StatementReader::readStep},
+    {"language", &StatementReader::readLanguage},
+    {"touch", &StatementReader::readTouch},
+    {"hold", &StatementReader::readHold},
+    {"drag", &StatementReader::readDrag},
+    {"turn", &StatementReader::readTurn},
+    {"key", &StatementReader::readKey},
+    {"type", &StatementReader::readType},
+    {"number", &StatementReader::readNumber},
+    {"expect", &StatementReader::readExpect},
+    {"pause", &StatementReader::readPause},
+    {"picture", &StatementReader::readPicture},
+    {"plot", &StatementReader::readPlot},
+    {"save", &StatementReader::readSave},
+    {nullptr, nullptr}};
 
 StatementReader::StatementReader(const QVector<ScenarioWord>& words)
     : m_words(words)
@@ -125,6 +133,13 @@ void StatementReader::readPicture(Statement& statement)
 {
     statement.kind = Statement::Picture;
     statement.name = takePictureName();
+}
+
+void StatementReader::readPause(Statement& statement)
+{
+    statement.kind = Statement::Pause;
+    if (!readSeconds(statement.seconds))
+        fail(QStringLiteral("\"pause\" wants a time such as 2 s"));
 }
 
 void StatementReader::readPlot(Statement& statement)

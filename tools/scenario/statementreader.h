@@ -42,6 +42,7 @@ private:
     void readNumber(Statement& statement);
     void readExpect(Statement& statement);
     void readPicture(Statement& statement);
+    void readPause(Statement& statement);
     void readPlot(Statement& statement);
     void readSave(Statement& statement);
 

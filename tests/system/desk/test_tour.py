@@ -5,7 +5,6 @@
 import os
 import pathlib
 import re
-import shutil
 import signal
 import socket
 import subprocess
@@ -29,8 +28,6 @@ class TourTest(unittest.TestCase):
     def setUp(self):
         self.output = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
         share = pathlib.Path(os.environ["MPB_APP_DIR"]).parent
-        shutil.copytree(share / "app", desk.USER_DATA / ".app")
-        shutil.copytree(share / "examples", desk.USER_DATA / "examples")
         self.addCleanup(desk.clear_user_data)
         self.command = [SESSION, "--programs", bench.PROGRAMS, "--share", share]
 

@@ -128,6 +128,26 @@ class TestHostProgram : public QObject
     Q_OBJECT
 
 private slots:
+    void explainsItselfWithoutAScreen_data()
+    {
+        QTest::addColumn<QString>("option");
+        QTest::addColumn<QByteArray>("word");
+        QTest::newRow("help") << QStringLiteral("--help") << QByteArray("--screen-port");
+        QTest::newRow("version") << QStringLiteral("--version") << QByteArray("kvx-host ");
+    }
+
+    void explainsItselfWithoutAScreen()
+    {
+        QFETCH(QString, option);
+        QFETCH(QByteArray, word);
+        QProcess process;
+        process.start(program(), {option});
+        QVERIFY(process.waitForFinished());
+        QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(process.exitCode(), 0);
+        QVERIFY(process.readAllStandardOutput().contains(word));
+    }
+
     void saysWhenItIsReady()
     {
         Desk desk;

@@ -23,7 +23,7 @@ private slots:
                              << "1.000 V";
         QTest::newRow("mega") << 1e6 << "1.000 MV"
                               << "1.000 MV";
-        QTest::newRow("fine") << 12345.678901 << "12.345678901 kV"
+        QTest::newRow("fine") << 12345.678901 << "12.345679 kV"
                               << "12.346 kV";
         QTest::newRow("negative") << -0.5 << "−500.000 mV"
                                   << "−500.000 mV";

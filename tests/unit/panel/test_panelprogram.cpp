@@ -30,6 +30,9 @@ private:
 
 void TestPanelProgram::run(QProcess& program, const QStringList& arguments)
 {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("QT_FONT_DPI"), QStringLiteral("96"));
+    program.setProcessEnvironment(environment);
     program.start(qEnvironmentVariable("MPB_BIN_DIR") + QStringLiteral("/kvx-panel"), arguments);
     QVERIFY(program.waitForStarted());
 }
@@ -94,10 +97,13 @@ void TestPanelProgram::readyAndAskedToEnd()
     FakeBench bench;
     const PanelOptions options = bench.options();
     QProcess program;
-    run(program, {QStringLiteral("--no-settings"), QStringLiteral("--language"),
-                  QStringLiteral("de"), QStringLiteral("--keypad"), options.keypadPath,
-                  QStringLiteral("--screen-port"), QString::number(options.screenPort),
-                  QStringLiteral("--instrument-port"), QString::number(options.instrumentPort)});
+    const QTemporaryDir folder;
+    const QString picture = folder.filePath(QStringLiteral("front.png"));
+    run(program,
+        {QStringLiteral("--no-settings"), QStringLiteral("--language"), QStringLiteral("de"),
+         QStringLiteral("--keypad"), options.keypadPath, QStringLiteral("--picture"), picture,
+         QStringLiteral("--screen-port"), QString::number(options.screenPort),
+         QStringLiteral("--instrument-port"), QString::number(options.instrumentPort)});
     QTRY_VERIFY(program.canReadLine());
     QCOMPARE(program.readLine(), QByteArray("ready\n"));
     ::kill(pid_t(program.processId()), signal);
@@ -105,6 +111,7 @@ void TestPanelProgram::readyAndAskedToEnd()
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.exitCode(), 0);
     QCOMPARE(program.readAllStandardOutput(), QByteArray());
+    QCOMPARE(QImage(picture).size(), QSize(1280, 860));
 }
 
 // It waits for all three to come.

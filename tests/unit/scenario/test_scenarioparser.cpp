@@ -60,6 +60,7 @@ private Q_SLOTS:
         QTest::newRow("expect file run.mpwv") << int(Statement::ExpectFile);
         QTest::newRow("expect no file \"my setup.json\"") << int(Statement::ExpectNoFile);
         QTest::newRow("picture home-page") << int(Statement::Picture);
+        QTest::newRow("pause 0.5 s") << int(Statement::Pause);
         QTest::newRow("plot channel1 within 3 s") << int(Statement::Plot);
         QTest::newRow("save run.mpwv") << int(Statement::Save);
         QTest::newRow("save examples/a.json as b.json") << int(Statement::Save);
@@ -138,6 +139,7 @@ private Q_SLOTS:
         QTest::newRow("expect picture a 1,2,3") << "X,Y";
         QTest::newRow("expect picture a 1,2,0x5") << "X,Y";
         QTest::newRow("picture ../a") << "picture's name";
+        QTest::newRow("pause 5") << "\"pause\"";
         QTest::newRow("plot a/b") << "picture's name";
         QTest::newRow("expect file ../a") << "inside";
         QTest::newRow("save /etc/passwd") << "inside";

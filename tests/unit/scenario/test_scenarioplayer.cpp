@@ -217,6 +217,12 @@ private Q_SLOTS:
         QVERIFY(play("expect no command \"OUTP1 ...\"").contains("was sent"));
     }
 
+    void pauses()
+    {
+        QCOMPARE(play("pause 0.5 s"), QString());
+        QCOMPARE(m_desk->waited, 500);
+    }
+
     void plots()
     {
         QCOMPARE(play("plot channel1"), QString());
