@@ -7,8 +7,10 @@
 set -eu
 export DEBIAN_FRONTEND=noninteractive HOME=/root
 
+# The package's files; those that the user made stay.
 ours() {
     find / -xdev -path /proc -prune -o -path /tmp -prune -o \
+        -path /mnt/user-data -prune -o \
         \( -name '*multi-pulse*' -o -name 'kvx-*' -o -name 'mpwv*' \) -print
 }
 
