@@ -10,6 +10,7 @@ import socket
 import subprocess
 import sys
 import tempfile
+import time
 import unittest
 
 sys.path.insert(0, os.environ["MPB_SOURCE_DIR"] + "/tests/support")
@@ -84,6 +85,31 @@ class TourTest(unittest.TestCase):
         self.wait_for(session)
         self.assertEqual(session.returncode, 0)
         self.check_nothing_is_left()
+
+    def test_what_is_killed_comes_back(self):
+        session = self.open_front()
+        for name in ("kvx-panel", "kvx-host", "kvx-instrument"):
+            # A program that ends within five seconds of its start is not started again.
+            self.wait_until_older_than(name, 5.5)
+            subprocess.run(["pkill", "-KILL", "-x", name[:15]], check=True)
+            line = session.stdout.readline()
+            self.assertIn(f"{name[4:]} has ended; starting it again", line or session.stderr.read())
+        session.send_signal(signal.SIGTERM)
+        session.communicate(timeout=bench.SECONDS)
+        self.check_nothing_is_left()
+
+    def wait_until_older_than(self, name, seconds):
+        pattern = ["pgrep", "-x", "--older", str(int(seconds + 1)), name[:15]]
+        deadline = time.monotonic() + bench.SECONDS
+        while subprocess.run(pattern, stdout=subprocess.DEVNULL, check=False).returncode != 0:
+            self.assertLess(time.monotonic(), deadline, f"there is no {name}")
+            time.sleep(0.1)
+
+    def test_the_tour_removes_no_file_of_others(self):
+        other = self.output / "mine.png"
+        other.write_bytes(b"mine")
+        self.wait_for(self.start("--output", self.output))
+        self.assertEqual(other.read_bytes(), b"mine")
 
     def test_it_says_what_does_not_start(self):
         with socket.create_server(("127.0.0.1", 30000)):
