@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
 // SPDX-License-Identifier: MIT
 
-// How long a detent of the knob or a finger takes until the changed picture has come over RFB and is
-// painted, scaled as a panel scales it, on a canvas of its own. It talks to a host that runs with the editor open; script/benchmark starts it.
+// How long a detent of the knob or a finger takes until the changed picture has come over RFB and
+// is painted, scaled as a panel scales it, on a canvas of its own. It talks to a host that runs
+// with the editor open; script/benchmark starts it.
 
 #include "keypadclient.h"
 #include "rfbscreen.h"

@@ -26,7 +26,7 @@ OutputTrace longNoise(int samples)
     OutputTrace trace = steps();
     trace.counts.resize(size_t(samples));
     for (int i = 0; i < samples; ++i)
-        trace.counts[size_t(i)] = qint16((i * 7919) % 2001 - 1000);
+        trace.counts[size_t(i)] = qint16((qint64(i) * 7919) % 2001 - 1000);
     return trace;
 }
 
