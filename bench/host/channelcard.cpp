@@ -29,6 +29,7 @@ const int ValuesTop = 142;
 const int ValueHeight = 46;
 const int Columns = 3;
 const int SwitchWidth = 64;
+const int FewestPixels = 11;
 
 const QString Unknown = QStringLiteral("–");
 
@@ -97,6 +98,7 @@ ChannelCard::ChannelCard(int channel, QWidget* parent)
     m_pName->setBold(true);
     m_pSwitch->setBold(true);
     m_pSwitch->setAlignment(Qt::AlignCenter);
+    m_pFrequency->setFewestPixels(FewestPixels);
     for (const char* textId : {HostText::Amplitude, HostText::High, HostText::Load,
                                HostText::Offset, HostText::Low, HostText::Trigger})
         addValue(textId);
@@ -107,6 +109,7 @@ void ChannelCard::addValue(const char* textId)
 {
     m_values.append({textId, new TextLabel(13, HostLook::Quiet, this),
                      new TextLabel(17, HostLook::Text, this)});
+    m_values.last().value->setFewestPixels(FewestPixels);
 }
 
 const ChannelState& ChannelCard::channelState() const

@@ -5,6 +5,10 @@
 
 #include "hostinterface/kvxsharedmemory.h"
 
+#include <cerrno>
+
+#include <sys/file.h>
+
 namespace {
 
 // More than the two flags need: plug-ins built elsewhere may attach to a larger structure.
@@ -25,12 +29,47 @@ FlagSegment::~FlagSegment() = default;
 
 bool FlagSegment::open()
 {
-    const bool isOpen = m_segment.create(SegmentSize) ||
-                        (m_segment.error() == QSharedMemory::AlreadyExists && m_segment.attach());
-    if (!isOpen || !m_segment.lock())
+    if (attach() && takeKey() && clear())
+        return true;
+    m_segment.detach();
+    m_keyFile.close();
+    return false;
+}
+
+bool FlagSegment::attach()
+{
+    if (m_segment.create(SegmentSize) ||
+        (m_segment.error() == QSharedMemory::AlreadyExists && m_segment.attach()))
+        return true;
+    m_strError = m_segment.errorString();
+    return false;
+}
+
+// The segment's native key is a file, which stays as long as somebody is attached. A running host
+// has it locked; with a killed host its lock ends. Who is attached would tell less: plug-ins are.
+bool FlagSegment::takeKey()
+{
+    m_keyFile.setFileName(m_segment.nativeKey());
+    if (!m_keyFile.open(QIODevice::ReadOnly)) {
+        m_strError = QStringLiteral("%1: %2").arg(m_keyFile.fileName(), m_keyFile.errorString());
         return false;
-    static_cast<KVXSharedMemory*>(m_segment.data())->InitAll();
-    return m_segment.unlock();
+    }
+    if (::flock(m_keyFile.handle(), LOCK_EX | LOCK_NB) == 0)
+        return true;
+    m_strError =
+        errno == EWOULDBLOCK ? QStringLiteral("a running host has it") : qt_error_string(errno);
+    return false;
+}
+
+bool FlagSegment::clear()
+{
+    if (m_segment.lock()) {
+        static_cast<KVXSharedMemory*>(m_segment.data())->InitAll();
+        if (m_segment.unlock())
+            return true;
+    }
+    m_strError = m_segment.errorString();
+    return false;
 }
 
 bool FlagSegment::discardsKeys() const

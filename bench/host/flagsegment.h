@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <QFile>
 #include <QSharedMemory>
 
 /// The flags that the host shares with its plug-ins: made by the host, which clears them, and gone
@@ -16,10 +17,11 @@ public:
     FlagSegment& operator=(const FlagSegment&) = delete;
 
     /// Makes the segment, or takes over the one that a killed host has left; both flags are clear
-    /// then. False with errorString() set if neither is possible.
+    /// then. False with errorString() set if neither is possible, because a running host has it
+    /// say.
     bool open();
 
-    QString errorString() const { return m_segment.errorString(); }
+    QString errorString() const { return m_strError; }
 
     /// Whether keys are to be swallowed. False without a segment.
     bool discardsKeys() const;
@@ -29,5 +31,12 @@ public:
     bool blocksCommands() const;
 
 private:
+    bool attach();
+    bool takeKey();
+    bool clear();
+
+    // Let go after the segment is gone.
+    QFile m_keyFile;
     QSharedMemory m_segment;
+    QString m_strError;
 };

@@ -33,6 +33,7 @@ Host::Host(const HostOptions& options, Report report)
     , m_report(std::move(report))
     , m_settingsFile(options.userData)
     , m_languages(options.translations)
+    , m_settings(loadSettings())
     , m_settingsPage(&m_surface)
     , m_helpPage(&m_surface)
     , m_runner(&m_surface, dialogs())
@@ -66,13 +67,13 @@ void Host::connectPages()
 QString Host::start()
 {
     QString error = prepareFolders();
-    if (error.isEmpty() && !m_flags.open())
-        error = QStringLiteral("the segment of the flags: %1").arg(m_flags.errorString());
     if (error.isEmpty())
         error = m_keypad.listen(m_options.keypadPath);
+    if (error.isEmpty() && !m_flags.open())
+        error = QStringLiteral("the segment of the flags: %1").arg(m_flags.errorString());
     if (!error.isEmpty())
         return error;
-    loadSettings();
+    prepareDialogs();
     showHome();
     m_watch.start();
     return QString();
@@ -81,23 +82,32 @@ QString Host::start()
 QString Host::prepareFolders()
 {
     const QString error = HostFolders::make(m_options.userData);
+    const QString objection = HostFolders::userDataObjection(m_options.userData);
+    if (error.isEmpty() && !objection.isEmpty())
+        m_report(QStringLiteral("--user-data: %1").arg(objection));
     return error.isEmpty() ? error : QStringLiteral("--user-data %1").arg(error);
 }
 
-void Host::loadSettings()
+// The pages are made after this: they take their texts at once.
+HostSettings Host::loadSettings()
 {
     QString problem;
-    m_settings = m_settingsFile.load(problem);
+    HostSettings settings = m_settingsFile.load(problem);
     if (!problem.isEmpty())
         m_report(problem);
     QString language = m_options.language;
     if (language.isEmpty())
-        language = m_settings.language;
+        language = settings.language;
     if (language.isEmpty())
         language = Languages::ofDesktop();
     const QString missing = m_languages.install(language);
     if (!missing.isEmpty())
         m_report(missing);
+    return settings;
+}
+
+void Host::prepareDialogs()
+{
     HostDialogs::setScreen(&m_surface);
     HostDialogs::setUserDataFolder(m_options.userData);
     HostDialogs::setLastFolder(m_settings.lastFolder);
@@ -124,6 +134,7 @@ void Host::openPlugin(const PluginFile& plugin)
 {
     if (m_runner.isOpen())
         return;
+    m_openPlugin = plugin;
     const PluginResult result = m_runner.run(plugin.path, [this, &plugin] {
         m_settings.lastPlugin = QFileInfo(plugin.path).fileName();
         saveSettings();
@@ -154,8 +165,9 @@ void Host::reportException(const QString& words)
     if (m_bReporting)
         return;
     const QScopedValueRollback<bool> reporting(m_bReporting, true);
-    HostDialogs::critical(
-        translated(HostText::HasFailed).arg(translated(HostText::Applications), reason));
+    const QString title =
+        m_runner.isOpen() ? PluginTile::titleOf(m_openPlugin) : translated(HostText::Applications);
+    HostDialogs::critical(translated(HostText::HasFailed).arg(title, reason));
 }
 
 void Host::setLanguage(const QString& language)

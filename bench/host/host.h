@@ -32,19 +32,21 @@ public:
     Host(const HostOptions& options, Report report);
     ~Host() override;
 
-    /// Makes the flag segment, takes the keypad's socket and shows the home screen. Returns what
+    /// Takes the keypad's socket, makes the flag segment and shows the home screen. Returns what
     /// is wrong, or an empty text.
     QString start();
 
     /// Closes the plug-in that is open, if one is, and keeps the settings.
     void end();
 
-    /// Tells that an exception left an event handler, with its words or none.
+    /// Tells that an exception left an event handler, with its words or none: one of the plug-in
+    /// that is open, if one is, which stays open.
     void reportException(const QString& words);
 
 private:
     QString prepareFolders();
-    void loadSettings();
+    HostSettings loadSettings();
+    void prepareDialogs();
     void saveSettings();
     void connectPages();
     void showHome();
@@ -59,9 +61,9 @@ private:
     HostOptions m_options;
     Report m_report;
     HostSettingsFile m_settingsFile;
+    Languages m_languages;
     HostSettings m_settings;
     FlagSegment m_flags;
-    Languages m_languages;
     Surface m_surface;
     SettingsPage m_settingsPage;
     HelpPage m_helpPage;
@@ -70,6 +72,7 @@ private:
     KeypadServer m_keypad;
     InstrumentWatch m_watch;
     InstrumentState m_instrument;
+    PluginFile m_openPlugin;
     bool m_bEnding = false;
     bool m_bReporting = false;
 };

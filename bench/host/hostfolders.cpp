@@ -25,6 +25,13 @@ QString firstFolder(const QString& programs, const QStringList& places)
     return QDir::cleanPath(programs + QLatin1Char('/') + places.last());
 }
 
+QString writersObjection(const QString& folder, const struct stat& state)
+{
+    return (state.st_mode & (S_IWGRP | S_IWOTH)) == 0
+               ? QString()
+               : QStringLiteral("others can write to the folder %1").arg(folder);
+}
+
 } // namespace
 
 QString HostFolders::plugins(const QString& programs)
@@ -54,6 +61,14 @@ QString HostFolders::make(const QString& folder)
     return QStringLiteral("%1: %2").arg(folder, QString::fromLocal8Bit(std::strerror(errno)));
 }
 
+QString HostFolders::userDataObjection(const QString& folder)
+{
+    struct stat state = {};
+    return ::stat(QFile::encodeName(folder).constData(), &state) == 0
+               ? writersObjection(folder, state)
+               : QString();
+}
+
 QString HostFolders::keypadObjection(const QString& folder)
 {
     struct stat state = {};
@@ -61,7 +76,5 @@ QString HostFolders::keypadObjection(const QString& folder)
         return QStringLiteral("%1 is not a folder").arg(folder);
     if (state.st_uid != ::geteuid())
         return QStringLiteral("the folder %1 belongs to somebody else").arg(folder);
-    if ((state.st_mode & (S_IWGRP | S_IWOTH)) != 0)
-        return QStringLiteral("others can write to the folder %1").arg(folder);
-    return QString();
+    return writersObjection(folder, state);
 }

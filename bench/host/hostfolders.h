@@ -20,6 +20,9 @@ QString translations(const QString& programs);
 /// what is wrong, or an empty text.
 QString make(const QString& folder);
 
+/// Why the user's files are not safe in @p folder: others can write to it. Empty where they are.
+QString userDataObjection(const QString& folder);
+
 /// Why the socket of the keypad must not lie in @p folder: it is none, or not the user's alone to
 /// write to. Empty where it may.
 QString keypadObjection(const QString& folder);

@@ -20,6 +20,13 @@ namespace {
 
 const int LookAgainMs = 5;
 
+// A desktop has them for its own screen. The instrument's is 800 by 480 pixels of its own, and what
+// is on it has one look.
+const char* const DesktopsLook[] = {
+    "QT_SCALE_FACTOR",           "QT_SCREEN_SCALE_FACTORS", "QT_AUTO_SCREEN_SCALE_FACTOR",
+    "QT_ENABLE_HIGHDPI_SCALING", "QT_DEVICE_PIXEL_RATIO",   "QT_FONT_DPI",
+    "QT_QPA_PLATFORMTHEME",      "QT_STYLE_OVERRIDE"};
+
 bool isOnNetwork()
 {
     return QGuiApplication::platformName() == QLatin1String("vnc");
@@ -87,6 +94,8 @@ void preparePlatform(const HostOptions& options)
         qputenv("QT_QPA_PLATFORM",
                 "vnc:port=" + QByteArray::number(options.screenPort) + ":size=800x480");
     qputenv("QT_IM_MODULE", "kvxkeyboard");
+    for (const char* variable : DesktopsLook)
+        qunsetenv(variable);
 }
 
 int runHostProgram(HostApplication& application, const HostOptions& options, QTextStream& out,

@@ -81,18 +81,16 @@ PluginResult PluginRunner::run(const QString& path, const std::function<void()>&
     PluginResult result;
     if (isOpen())
         return result;
-    CAppInterface* plugin = load(path, result);
-    if (plugin == nullptr)
-        return result;
-    m_pOpen = plugin;
     try {
-        runLoaded(*plugin, shown);
+        m_pOpen = load(path, result);
+        if (m_pOpen != nullptr)
+            runLoaded(*m_pOpen, shown);
     } catch (const std::exception& exception) {
         result = {PluginResult::Failed, QString::fromLocal8Bit(exception.what())};
     } catch (...) {
         result = {PluginResult::Failed, QString()};
     }
-    closeIfOpen(*plugin);
+    close();
     m_pOpen = nullptr;
     return result;
 }

@@ -20,7 +20,7 @@ struct PluginResult
     enum Outcome {
         Finished,  ///< it was run, and is closed again
         NotLoaded, ///< the file is no plug-in, or one for another interface
-        Failed     ///< an operation of it raised an exception
+        Failed     ///< its constructor or an operation of it raised an exception
     };
 
     Outcome outcome = Finished;

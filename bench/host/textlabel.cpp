@@ -32,10 +32,26 @@ void TextLabel::setColor(const QColor& color)
     setPalette(colors);
 }
 
+void TextLabel::setFewestPixels(int pixels)
+{
+    m_nFewestPixels = pixels;
+    update();
+}
+
+QFont TextLabel::shownFont() const
+{
+    QFont face = font();
+    const auto isTooWide = [&] { return QFontMetrics(face).horizontalAdvance(text()) > width(); };
+    while (m_nFewestPixels > 0 && face.pixelSize() > m_nFewestPixels && isTooWide())
+        face.setPixelSize(face.pixelSize() - 1);
+    return face;
+}
+
 void TextLabel::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
+    painter.setFont(shownFont());
     painter.setPen(palette().color(QPalette::WindowText));
     painter.drawText(rect(), static_cast<int>(alignment()) | Qt::TextSingleLine,
-                     fontMetrics().elidedText(text(), Qt::ElideRight, width()));
+                     painter.fontMetrics().elidedText(text(), Qt::ElideRight, width()));
 }

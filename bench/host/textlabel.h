@@ -16,6 +16,15 @@ public:
     void setBold(bool bold);
     void setColor(const QColor& color);
 
+    /// Lets a text that is too long become smaller first, down to that height of its letters.
+    void setFewestPixels(int pixels);
+
+    /// What the text is painted with at the present width.
+    QFont shownFont() const;
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+
+private:
+    int m_nFewestPixels = 0;
 };

@@ -9,7 +9,7 @@
 
 namespace {
 
-const QByteArray StateQuery("TRACe1:SEQuence?;:OUTPut1?;:TRACe1:LEVel:IDLE?");
+const QByteArray StateQuery("TRACe1:SEQuence?;:TRACe1:POINts?;:OUTPut1?;:TRACe1:LEVel:IDLE?");
 const QByteArray HeadQuery("FORMat:BORDer?;:TRACe1:POINts?;TIMe:STEP?;:TRACe1:TIMe:STARt?;"
                            ":TRACe1:LEVel:SCALe?;:TRACe1:LEVel:OFFSet?;:TRACe1:LEVel:IDLE?");
 
@@ -79,7 +79,7 @@ ChannelWatch::ChannelWatch(quint16 port, QObject* parent)
 // An instrument that comes back counts its bursts from the beginning.
 void ChannelWatch::begin()
 {
-    m_strSequence.clear();
+    m_strBurst.clear();
     m_client.ask("*IDN?", [this](const InstrumentReply& reply) {
         const QString model = modelOf(reply.data);
         if (!reply.ok || model == m_strModel)
@@ -113,11 +113,13 @@ void ChannelWatch::takeState(const QByteArray& line)
 {
     const QList<QByteArray> parts = line.split(';');
     double idle = 0;
-    if (parts.size() != 3 || !readNumber(parts.at(2), idle)) {
+    if (parts.size() != 4 || !readNumber(parts.at(3), idle)) {
         lookAgain();
         return;
     }
-    const bool isOn = parts.at(1).trimmed() == "1";
+    const bool isOn = parts.at(2).trimmed() == "1";
+    // A reset takes the samples away and goes on counting.
+    const QByteArray burst = parts.at(0) + ' ' + parts.at(1);
     const bool isFirst = !m_bTold;
     m_bTold = true;
     if (isFirst)
@@ -126,27 +128,27 @@ void ChannelWatch::takeState(const QByteArray& line)
         m_bOutputOn = isOn;
         Q_EMIT outputChanged(isOn);
     }
-    const bool isNewBurst = parts.first() != m_strSequence;
+    const bool isNewBurst = burst != m_strBurst;
     if (!isNewBurst && idle != m_trace.idle) {
         m_trace.idle = idle;
         Q_EMIT traceChanged();
     }
     if (isNewBurst)
-        fetch(parts.first());
+        fetch(burst);
     else
         lookAgain();
 }
 
-void ChannelWatch::fetch(const QByteArray& sequence)
+void ChannelWatch::fetch(const QByteArray& burst)
 {
     m_client.ask(HeadQuery, [this](const InstrumentReply& reply) {
         if (reply.ok && !parseTraceHead(reply.data, m_coming, m_bCountsSwapped))
             m_coming = OutputTrace();
     });
-    m_client.askBlock("TRACe1:DATA?", [this, sequence](const InstrumentReply& reply) {
+    m_client.askBlock("TRACe1:DATA?", [this, burst](const InstrumentReply& reply) {
         if (!reply.ok)
             return;
-        m_strSequence = sequence;
+        m_strBurst = burst;
         takeSamples(reply.data);
         lookAgain();
     });

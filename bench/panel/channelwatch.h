@@ -42,14 +42,14 @@ private:
     void end(const QString& reason);
     void poll();
     void takeState(const QByteArray& line);
-    void fetch(const QByteArray& sequence);
+    void fetch(const QByteArray& burst);
     void takeSamples(const QByteArray& block);
     void lookAgain();
 
     InstrumentClient m_client;
     QTimer m_timer;
     QString m_strModel;
-    QByteArray m_strSequence; // of the trace, as the instrument wrote it
+    QByteArray m_strBurst; // number and length of the trace, as the instrument wrote them
     OutputTrace m_trace;
     OutputTrace m_coming; // all but its samples
     bool m_bCountsSwapped = false;

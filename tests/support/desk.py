@@ -67,6 +67,8 @@ class Program:
         """Ends it, returns its exit code."""
         if self.running():
             self.process.send_signal(how)
+            # One that is frozen has to go on before it can end.
+            self.process.send_signal(signal.SIGCONT)
         try:
             return self.process.wait(bench.SECONDS)
         finally:
@@ -167,6 +169,13 @@ class Desk:
         """Ends a program without giving it the time for a word."""
         self.programs.pop(name).end(signal.SIGKILL)
 
+    def freeze(self, name):
+        """Stops a program where it is; what is sent to it waits."""
+        self.programs[name].process.send_signal(signal.SIGSTOP)
+
+    def thaw(self, name):
+        self.programs[name].process.send_signal(signal.SIGCONT)
+
     def keypad(self):
         return Keypad(self.keypad_path)
 
@@ -179,14 +188,26 @@ class Desk:
 
     def play(self, *files, text=None, output=None):
         """Plays scenario files, or lines, and returns what the program did."""
+        return subprocess.run(self._player(files or ["-"], output), input=text,
+                              capture_output=True, text=True, timeout=4 * bench.SECONDS,
+                              check=False, env=self.environment)
+
+    def begin(self, text):
+        """Starts to play lines and does not wait for their end."""
+        playing = subprocess.Popen(self._player(["-"]), stdin=subprocess.PIPE,
+                                   stdout=subprocess.DEVNULL, stderr=subprocess.PIPE, text=True,
+                                   env=self.environment)
+        playing.stdin.write(text)
+        playing.stdin.close()
+        return playing
+
+    def _player(self, files, output=None):
         command = [bench.PROGRAMS / "kvx-scenario", "--keypad", self.keypad_path, "--transcript",
                    self.transcript, "--language", self.language, "--output",
                    output or self.output, "--pictures", bench.SOURCE / "tests/scenarios/pictures"]
         if os.environ.get("MPB_APPROVE"):
             command.append("--approve")
-        return subprocess.run([str(part) for part in [*command, *(files or ["-"])]], input=text,
-                              capture_output=True, text=True, timeout=4 * bench.SECONDS,
-                              check=False, env=self.environment)
+        return [str(part) for part in [*command, *files]]
 
     def check(self, *files, text=None, output=None):
         """Likewise, and everything has to be as expected."""

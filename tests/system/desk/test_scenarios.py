@@ -3,6 +3,8 @@
 """Plays each scenario at a desk of its own, in one language: test_scenarios.py LANGUAGE."""
 
 import os
+import pathlib
+import shutil
 import sys
 import unittest
 
@@ -11,15 +13,31 @@ import bench  # noqa: E402
 import desk  # noqa: E402
 
 SCENARIOS = bench.SOURCE / "tests/scenarios"
+LIBRARIES = pathlib.Path(os.environ["MPB_LIB_DIR"])
+TRIALS = pathlib.Path(os.environ["MPB_TRIAL_PLUGINS"])
+
+
+def broken_plugins(folder):
+    """A damaged plug-in, one that throws and a sound one."""
+    folder.mkdir()
+    for library in ("MultiPulseBuilder", "appPlugins"):
+        shutil.copy(LIBRARIES / f"lib{library}.so", folder)
+    shutil.copy(TRIALS / "libTrialFailsShow.so", folder)
+    whole = (LIBRARIES / "libMultiPulseBuilder.so").read_bytes()
+    (folder / "libDamaged.so").write_bytes(whole[:len(whole) // 2])
+    return folder
 
 
 class ScenarioTest(unittest.TestCase):
     language = "en"
 
-    def play(self, name):
-        with desk.Desk(self.language).start("instrument", "host") as stand:
+    def play(self, name, programs=("instrument", "host"), with_broken_plugins=False):
+        self.addCleanup(desk.clear_user_data)
+        with desk.Desk(self.language) as stand:
+            if with_broken_plugins:
+                stand.host_options += ["--plugins", broken_plugins(stand.folder / "plugins")]
+            stand.start(*programs)
             (desk.USER_DATA / "broken.json").write_text("no setup")
-            self.addCleanup(desk.clear_user_data)
             stand.check(SCENARIOS / f"{name}.scenario", output=desk.output_folder(self.language))
             self.assertTrue(stand.programs["host"].running())
             self.assertFalse(stand.describe()["busy"])
@@ -49,10 +67,14 @@ class ScenarioTest(unittest.TestCase):
     def test_example_plugin(self):
         self.play("example-plugin")
 
+    def test_without_instrument(self):
+        self.play("without-instrument", programs=["host"])
+
+    def test_broken_plugin(self):
+        self.play("broken-plugin", with_broken_plugins=True)
+
     def test_nothing_is_left_untested(self):
-        """Each scenario that needs no other preparation is played here."""
         names = {path.stem.replace("-", "_") for path in SCENARIOS.glob("*.scenario")}
-        names -= {"broken_plugin", "without_instrument"}
         played = {name[len("test_"):] for name in dir(self) if name.startswith("test_")}
         self.assertEqual(names - played, set())
 

@@ -8,6 +8,8 @@
 #include <QSharedMemory>
 #include <QTest>
 
+#include <memory>
+
 namespace {
 
 /// What a plug-in does with the segment.
@@ -74,6 +76,32 @@ private slots:
         QVERIFY(!segment.discardsKeys());
         QVERIFY(!segment.blocksCommands());
         QVERIFY(!flags->GetDiscardKeys());
+    }
+
+    void leavesARunningHostsAlone()
+    {
+        FlagSegment running;
+        QVERIFY(running.open());
+        Attached plugin;
+        plugin.flags()->SetDiscardKeys(true);
+        plugin.flags()->SetBlockSCPI(true);
+        FlagSegment second;
+        QVERIFY(!second.open());
+        QCOMPARE(second.errorString(), QStringLiteral("a running host has it"));
+        QVERIFY(!second.discardsKeys());
+        QVERIFY(running.discardsKeys());
+        QVERIFY(running.blocksCommands());
+    }
+
+    void isOpenedOnceTheOtherHostHasGone()
+    {
+        auto first = std::make_unique<FlagSegment>();
+        QVERIFY(first->open());
+        const Attached plugin;
+        FlagSegment second;
+        QVERIFY(!second.open());
+        first.reset();
+        QVERIFY2(second.open(), qPrintable(second.errorString()));
     }
 };
 

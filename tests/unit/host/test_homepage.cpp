@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 
 #include "channelcard.h"
+#include "fontsubstitution.h"
 #include "frontpanel.h"
 #include "homepage.h"
 #include "hosttext.h"
+#include "languages.h"
 #include "screendescription.h"
 #include "screenstart.h"
+#include "textlabel.h"
 
 #include <QPushButton>
 #include <QSignalSpy>
@@ -230,6 +233,50 @@ private slots:
         FrontPanel::settle();
         QVERIFY(texts().contains(QLatin1String(HostText::NoApplications)));
         QCOMPARE(QApplication::focusWidget()->objectName(), QStringLiteral("settings"));
+    }
+
+    void longValuesAreShownWhole_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<int>("source");
+        for (const QString& language : Languages::all()) {
+            for (int source : {TriggerState::Manual, TriggerState::External, TriggerState::Timer})
+                QTest::addRow("%s %d", qPrintable(language), source) << language << source;
+        }
+    }
+
+    void longValuesAreShownWhole()
+    {
+        QFETCH(QString, language);
+        QFETCH(int, source);
+        substituteTextFont();
+        m_texts.reset();
+        Languages texts(qEnvironmentVariable("MPB_TRANSLATIONS_DIR"));
+        QCOMPARE(texts.install(language), QString());
+        FrontPanel::settle();
+        InstrumentState state = answering();
+        state.trigger.source = decltype(state.trigger.source)(source);
+        state.trigger.timer = 0.029411765;
+        for (ChannelState& channel : state.channels) {
+            channel.frequency = 29411.765;
+            channel.burst = true;
+            channel.cycles = 1e6;
+            channel.amplitude = 19.999;
+            channel.low = -9.999;
+            channel.offset = -9.999;
+        }
+        m_page->setInstrument(state);
+        FrontPanel::settle();
+        int frequencies = 0;
+        for (const TextLabel* label : m_page->findChildren<TextLabel*>()) {
+            const int wanted = QFontMetrics(label->shownFont()).horizontalAdvance(label->text());
+            QVERIFY2(wanted <= label->width(), qPrintable(QStringLiteral("%1: %2 of %3 pixels")
+                                                              .arg(label->text())
+                                                              .arg(wanted)
+                                                              .arg(label->width())));
+            frequencies += int(label->text() == QLatin1String("29.411765 kHz"));
+        }
+        QCOMPARE(frequencies, 2);
     }
 
     void burstsAndTriggersInWords_data()

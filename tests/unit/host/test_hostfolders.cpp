@@ -36,6 +36,31 @@ private slots:
         QCOMPARE(HostFolders::make(deep), deep + QStringLiteral(": No such file or directory"));
     }
 
+    void tellsWhoElseCanWriteUserData_data()
+    {
+        QTest::addColumn<int>("others");
+        QTest::addColumn<bool>("isObjected");
+        QTest::newRow("nobody") << 0 << false;
+        QTest::newRow("readers") << int(QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther |
+                                        QFile::ExeOther)
+                                 << false;
+        QTest::newRow("group") << int(QFile::WriteGroup) << true;
+        QTest::newRow("all") << int(QFile::WriteOther) << true;
+    }
+
+    void tellsWhoElseCanWriteUserData()
+    {
+        QFETCH(int, others);
+        QFETCH(bool, isObjected);
+        const QTemporaryDir base;
+        QVERIFY(QFile::setPermissions(base.path(), QFile::Permissions(others) | QFile::ReadOwner |
+                                                       QFile::WriteOwner | QFile::ExeOwner));
+        QCOMPARE(HostFolders::make(base.path()), QString());
+        QCOMPARE(HostFolders::userDataObjection(base.path()),
+                 isObjected ? QStringLiteral("others can write to the folder ") + base.path()
+                            : QString());
+    }
+
     void keypadsFolderIsTheUsersOwn()
     {
         const QTemporaryDir base;

@@ -7,6 +7,7 @@
 #include "frontpanelkeys.h"
 #include "hostinterface/kvxsharedmemory.h"
 
+#include <QDataStream>
 #include <QFileInfo>
 #include <QLocalSocket>
 #include <QProcess>
@@ -43,7 +44,6 @@ public:
 
     void start(const QStringList& options = {})
     {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.remove(QStringLiteral("QT_QPA_PLATFORM"));
         process.setProcessEnvironment(environment);
         process.start(program(), QStringList{QStringLiteral("--screen-port"), QStringLiteral("0"),
@@ -102,6 +102,7 @@ public:
     }
 
     TrialFolder plugins;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     QString keypad;
     QProcess process;
     QByteArray ready;
@@ -114,6 +115,35 @@ bool isSegmentThere()
 {
     QSharedMemory segment(QLatin1String(KVXSharedMemory::Key));
     return segment.attach();
+}
+
+/// What a viewer sends for a touch at that pixel of the screen.
+void touch(quint16 port, const QPoint& at)
+{
+    QTcpSocket viewer;
+    viewer.connectToHost(QStringLiteral("127.0.0.1"), port);
+    const auto read = [&viewer](int size) {
+        while (viewer.bytesAvailable() < size && viewer.waitForReadyRead()) {
+        }
+        return viewer.read(size);
+    };
+    read(12);
+    viewer.write("RFB 003.003\n");
+    read(4);
+    viewer.write(QByteArray(1, 1));
+    const int sizeOfStart = 24;
+    const int sizeOfName = read(sizeOfStart).right(4).toHex().toInt(nullptr, 16);
+    read(sizeOfName);
+    for (char buttons : {1, 0}) {
+        QByteArray message;
+        QDataStream(&message, QIODevice::WriteOnly)
+            << quint8(5) << quint8(buttons) << quint16(at.x()) << quint16(at.y());
+        viewer.write(message);
+    }
+    viewer.waitForBytesWritten();
+    viewer.disconnectFromHost();
+    if (viewer.state() != QAbstractSocket::UnconnectedState)
+        viewer.waitForDisconnected();
 }
 
 QString builder()
@@ -200,6 +230,8 @@ private slots:
         QTest::addColumn<QString>("reason");
         QTest::newRow("throws") << "TrialFailsExec"
                                 << "trial by fire";
+        QTest::newRow("throws while it is made") << "TrialFailsConstructor"
+                                                 << "Trial has failed";
         QTest::newRow("interface") << "TrialForeign"
                                    << "org.example.Another";
         QTest::newRow("symbol") << "TrialMissesSymbol"
@@ -217,6 +249,68 @@ private slots:
         desk.screen(Desk::stroke(Qt::Key_Return));
         QTRY_VERIFY(desk.shows(QStringLiteral("Applications")));
         QCOMPARE(desk.end(), 0);
+    }
+
+    void aPluginStaysOpenWhenATimerOfItThrows()
+    {
+        Desk desk;
+        restartWith(desk, QStringLiteral("TrialFailsTimer"));
+        desk.screen(Desk::stroke(Qt::Key_Return));
+        QTRY_VERIFY(desk.shows(QStringLiteral("Trial has failed")));
+        QVERIFY(desk.shows(QStringLiteral("trial by fire")));
+        desk.screen(Desk::stroke(Qt::Key_Return));
+        QTRY_VERIFY(!desk.shows(QStringLiteral("trial by fire")));
+        QVERIFY(desk.shows(QStringLiteral("Trial window")));
+        QCOMPARE(desk.end(), 0);
+    }
+
+    void isAsLargeOnEveryDesktop_data()
+    {
+        QTest::addColumn<QString>("variable");
+        QTest::newRow("none") << QString();
+        for (const char* variable :
+             {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_DEVICE_PIXEL_RATIO"})
+            QTest::newRow(variable) << QString::fromLatin1(variable);
+    }
+
+    void isAsLargeOnEveryDesktop()
+    {
+        QFETCH(QString, variable);
+        Desk desk;
+        desk.end();
+        if (!variable.isEmpty())
+            desk.environment.insert(variable, QStringLiteral("2"));
+        desk.start();
+        QRect settings;
+        for (const Keypad::ScreenItem& item : desk.screen().items) {
+            if (item.text == QLatin1String("Settings"))
+                settings = item.rect;
+        }
+        QVERIFY(settings.isValid());
+        touch(desk.port(), settings.center());
+        QTRY_VERIFY(desk.shows(QStringLiteral("Language")));
+    }
+
+    void aStartHasNothingToReport()
+    {
+        Desk desk;
+        QTRY_VERIFY(desk.shows(QStringLiteral("Channel 2")));
+        QCOMPARE(desk.end(), 0);
+        // The platform's own line.
+        QCOMPARE(desk.process.readAllStandardError(), QByteArray("QVncServer created on port 0\n"));
+    }
+
+    void warnsOfUserDataThatOthersCanWrite()
+    {
+        const QTemporaryDir folder;
+        QVERIFY(QFile::setPermissions(folder.path(), QFile::Permissions(0x7777)));
+        Desk desk({QStringLiteral("--user-data"), folder.path()});
+        QVERIFY(desk.ready.startsWith("ready: "));
+        QCOMPARE(desk.end(), 0);
+        const QByteArray warning = "kvx-host: --user-data: others can write to the folder " +
+                                   folder.path().toLocal8Bit() + '\n';
+        const QByteArray told = desk.process.readAllStandardError();
+        QVERIFY2(told.contains(warning), told.constData());
     }
 
     void changesTheLanguageAboveAPlugin()
@@ -289,15 +383,35 @@ private slots:
         QVERIFY2(told.contains(error), told.constData());
     }
 
+    void secondHostLeavesTheFirstAlone_data()
+    {
+        QTest::addColumn<bool>("isSameKeypad");
+        QTest::addColumn<QByteArray>("error");
+        QTest::newRow("same keypad") << true << QByteArray("kvx-host: keypad ");
+        QTest::newRow("another keypad")
+            << false << QByteArray("kvx-host: the segment of the flags: a running host has it\n");
+    }
+
     void secondHostLeavesTheFirstAlone()
     {
+        QFETCH(bool, isSameKeypad);
+        QFETCH(QByteArray, error);
         Desk first;
-        Desk second({QStringLiteral("--keypad"), first.keypad});
+        QSharedMemory segment(QLatin1String(KVXSharedMemory::Key));
+        QVERIFY(segment.attach());
+        auto* flags = static_cast<KVXSharedMemory*>(segment.data());
+        flags->SetDiscardKeys(true);
+        flags->SetBlockSCPI(true);
+        Desk second(isSameKeypad ? QStringList{QStringLiteral("--keypad"), first.keypad}
+                                 : QStringList());
         QVERIFY(second.ready.isEmpty());
         second.process.waitForFinished();
         QCOMPARE(second.process.exitCode(), 2);
+        const QByteArray told = second.process.readAllStandardError();
+        QVERIFY2(told.contains(error), told.constData());
+        QVERIFY(flags->GetDiscardKeys());
+        QVERIFY(flags->GetBlockSCPI());
         QVERIFY(first.shows(QStringLiteral("Applications")));
-        QVERIFY(isSegmentThere());
     }
 
 private:

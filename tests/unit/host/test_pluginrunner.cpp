@@ -139,6 +139,7 @@ private slots:
     void outlivesExceptions_data()
     {
         QTest::addColumn<QString>("name");
+        QTest::newRow("constructor") << "TrialFailsConstructor";
         QTest::newRow("initCallbacks") << "TrialFailsInit";
         QTest::newRow("show") << "TrialFailsShow";
         QTest::newRow("exec, its window open") << "TrialFailsExec";

@@ -143,8 +143,9 @@ void FakeInstrument::setState(int sequence, bool isOn, double idle, const QVecto
     const QByteArray level = QByteArray::number(idle);
     const QByteArray nothing = "9.91E+37";
     const bool isPlayed = !counts.isEmpty();
-    answer("TRACe1:SEQuence?;:OUTPut1?;:TRACe1:LEVel:IDLE?",
-           QByteArray::number(sequence) + ';' + (isOn ? '1' : '0') + ';' + level);
+    answer("TRACe1:SEQuence?;:TRACe1:POINts?;:OUTPut1?;:TRACe1:LEVel:IDLE?",
+           QByteArray::number(sequence) + ';' + QByteArray::number(counts.size()) + ';' +
+               (isOn ? '1' : '0') + ';' + level);
     answer("FORMat:BORDer?;:TRACe1:POINts?;TIMe:STEP?;:TRACe1:TIMe:STARt?;:TRACe1:LEVel:SCALe?;"
            ":TRACe1:LEVel:OFFSet?;:TRACe1:LEVel:IDLE?",
            "NORM;" + QByteArray::number(counts.size()) + ';' + (isPlayed ? "1E-6" : nothing) + ';' +

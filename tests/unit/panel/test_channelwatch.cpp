@@ -18,6 +18,7 @@ private slots:
     void readsTheTrace();
     void swappedBytes();
     void fetchesOnlyNewBursts();
+    void resetTakesTheBurstAway();
     void outputAndIdle();
     void goesAndComesBack();
     void oddReplies();
@@ -93,12 +94,24 @@ void TestChannelWatch::fetchesOnlyNewBursts()
     instrument.setState(1, true, 0, {1, 2});
     ChannelWatch watch(instrument.port());
     watch.start();
-    const QByteArray state("TRACe1:SEQuence?;:OUTPut1?;:TRACe1:LEVel:IDLE?");
+    const QByteArray state("TRACe1:SEQuence?;:TRACe1:POINts?;:OUTPut1?;:TRACe1:LEVel:IDLE?");
     QTRY_VERIFY(instrument.count(state) >= 3);
     QCOMPARE(instrument.count("TRACe1:DATA?"), 1);
     instrument.setState(2, true, 0, {3});
     QTRY_COMPARE(watch.trace().counts, (std::vector<qint16>{3}));
     QCOMPARE(instrument.count("TRACe1:DATA?"), 2);
+}
+
+void TestChannelWatch::resetTakesTheBurstAway()
+{
+    FakeInstrument instrument;
+    instrument.setState(5, true, 0, {1, 2});
+    ChannelWatch watch(instrument.port());
+    watch.start();
+    QTRY_COMPARE(watch.trace().counts.size(), size_t(2));
+    instrument.setState(5, true, -1.25, {});
+    QTRY_VERIFY(watch.trace().isEmpty());
+    QCOMPARE(watch.trace().idle, -1.25);
 }
 
 void TestChannelWatch::outputAndIdle()
@@ -143,7 +156,7 @@ void TestChannelWatch::goesAndComesBack()
 void TestChannelWatch::oddReplies()
 {
     FakeInstrument instrument;
-    const QByteArray state("TRACe1:SEQuence?;:OUTPut1?;:TRACe1:LEVel:IDLE?");
+    const QByteArray state("TRACe1:SEQuence?;:TRACe1:POINts?;:OUTPut1?;:TRACe1:LEVel:IDLE?");
     instrument.answer(state, "nonsense");
     ChannelWatch watch(instrument.port());
     watch.start();

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <QLabel>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <cstring>
@@ -31,6 +32,12 @@ class TrialPlugin : public QObject, public CAppInterface
     Q_PROPERTY(QString calls MEMBER m_strCalls)
 
 public:
+    TrialPlugin()
+    {
+        if (failsIn("constructor"))
+            called("constructor");
+    }
+
     void initCallbacks(STRUCT_SHARED_POINTERS callbacks) override
     {
         called("initCallbacks");
@@ -61,6 +68,8 @@ public:
     {
         m_pWindow->show();
         called("exec");
+        if (failsIn("timer"))
+            QTimer::singleShot(0, m_pWindow, [this] { called("timer"); });
         return m_pWindow->exec();
     }
 
@@ -74,10 +83,15 @@ public:
     QWidget* getWindow() override { return m_pWindow; }
 
 private:
+    static bool failsIn(const char* operation)
+    {
+        return std::strcmp(operation, TRIAL_FAILS_IN) == 0;
+    }
+
     void called(const char* operation)
     {
         m_strCalls += QLatin1String(operation) + QLatin1Char(' ');
-        if (std::strcmp(operation, TRIAL_FAILS_IN) == 0)
+        if (failsIn(operation))
             throw std::runtime_error("trial by fire");
 #ifdef TRIAL_MISSES_SYMBOL
         nobodyHasThis();
