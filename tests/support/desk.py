@@ -66,9 +66,11 @@ class Program:
     def end(self, how=signal.SIGTERM):
         """Ends it, returns its exit code."""
         if self.running():
+            # One that is frozen has to go on before it can end. Not after it was asked to: a sanitized
+            # program may look for leaks by then, and hangs if it is sent a signal.
+            if how != signal.SIGKILL:
+                self.process.send_signal(signal.SIGCONT)
             self.process.send_signal(how)
-            # One that is frozen has to go on before it can end.
-            self.process.send_signal(signal.SIGCONT)
         try:
             return self.process.wait(bench.SECONDS)
         finally:
