@@ -3,10 +3,11 @@
 
 #include "languages.h"
 
+#include "languagenames.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QLocale>
-#include <QMap>
 
 namespace {
 
@@ -16,29 +17,17 @@ const char* const OwnCatalogues[] = {"multipulse", "kvxhost", "kvxdialogs"};
 
 QStringList Languages::all()
 {
-    return {QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("zh_CN"),
-            QStringLiteral("ja")};
+    return LanguageNames::all();
 }
 
 QString Languages::nameOf(const QString& language)
 {
-    static const QMap<QString, QString> names = {
-        {QStringLiteral("en"), QStringLiteral("English")},
-        {QStringLiteral("de"), QStringLiteral("Deutsch")},
-        {QStringLiteral("zh_CN"), QStringLiteral("中文")},
-        {QStringLiteral("ja"), QStringLiteral("日本語")},
-    };
-    return names.value(language);
+    return LanguageNames::nameOf(language);
 }
 
 QString Languages::ofDesktop()
 {
-    const QString desktop = QLocale::system().name();
-    for (const QString& language : all()) {
-        if (desktop.section(QLatin1Char('_'), 0, 0) == language.section(QLatin1Char('_'), 0, 0))
-            return language;
-    }
-    return all().first();
+    return LanguageNames::ofLocale(QLocale::system().name());
 }
 
 Languages::Languages(const QString& folder)

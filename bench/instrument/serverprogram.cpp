@@ -4,12 +4,12 @@
 #include "serverprogram.h"
 
 #include "devicetable.h"
+#include "endsignals.h"
 #include "generatormodel.h"
 #include "scpiinstrument.h"
 #include "server.h"
 #include "serverclock.h"
 #include "serveroptions.h"
-#include "serversignals.h"
 #include "transcript.h"
 
 #include <QCoreApplication>
@@ -150,8 +150,8 @@ int serve(const ServerOptions& options, QTextStream& out, QTextStream& err)
     if (!server.open(options.port))
         return fail(err, QStringLiteral("port %1: %2").arg(options.port).arg(server.errorString()),
                     ServerNoPort);
-    const ServerSignals endSignals;
-    QObject::connect(&endSignals, &ServerSignals::endRequested, qApp, &QCoreApplication::quit);
+    const EndSignals endSignals;
+    QObject::connect(&endSignals, &EndSignals::endRequested, qApp, &QCoreApplication::quit);
     out << (options.faults.refuse ? "refusing on 127.0.0.1:" : "listening on 127.0.0.1:")
         << server.port() << '\n';
     out.flush();

@@ -3,36 +3,25 @@
 
 #include "panellanguages.h"
 
+#include "common/languagenames.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
-#include <QMap>
 
 QStringList PanelLanguages::all()
 {
-    return {QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("zh_CN"),
-            QStringLiteral("ja")};
+    return LanguageNames::all();
 }
 
 QString PanelLanguages::nameOf(const QString& language)
 {
-    static const QMap<QString, QString> names = {
-        {QStringLiteral("en"), QStringLiteral("English")},
-        {QStringLiteral("de"), QStringLiteral("Deutsch")},
-        {QStringLiteral("zh_CN"), QStringLiteral("中文")},
-        {QStringLiteral("ja"), QStringLiteral("日本語")},
-    };
-    return names.value(language);
+    return LanguageNames::nameOf(language);
 }
 
 QString PanelLanguages::ofLocale(const QString& localeName)
 {
-    const QString spoken = localeName.section(QLatin1Char('_'), 0, 0);
-    for (const QString& language : all()) {
-        if (language.section(QLatin1Char('_'), 0, 0) == spoken)
-            return language;
-    }
-    return all().first();
+    return LanguageNames::ofLocale(localeName);
 }
 
 QString PanelLanguages::defaultFolder(const QString& programFolder)

@@ -4,11 +4,11 @@
 #include "panelprogram.h"
 
 #include "common/fontsubstitution.h"
+#include "endsignals.h"
 #include "panellanguages.h"
 #include "panellook.h"
 #include "paneloptions.h"
 #include "panelwindow.h"
-#include "serversignals.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -109,9 +109,9 @@ int runPanel(const PanelOptions& options, QTextStream& out, QTextStream& err)
         out << "ready\n";
         out.flush();
     });
-    const ServerSignals endSignals;
-    QObject::connect(&endSignals, &ServerSignals::endRequested, &window, &QWidget::close);
-    QObject::connect(&endSignals, &ServerSignals::endRequested, qApp, &QCoreApplication::quit);
+    const EndSignals endSignals;
+    QObject::connect(&endSignals, &EndSignals::endRequested, &window, &QWidget::close);
+    QObject::connect(&endSignals, &EndSignals::endRequested, qApp, &QCoreApplication::quit);
     window.start();
     // A picture is to be the same whatever the size of the desktop.
     if (!options.picture.isEmpty())

@@ -3,8 +3,9 @@
 
 #include "languages.h"
 
+#include "common/languagenames.h"
+
 #include <QCoreApplication>
-#include <QMap>
 
 namespace {
 
@@ -17,19 +18,12 @@ QString catalogue(const QString& name, const QString& language)
 
 QStringList Languages::all()
 {
-    return {QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("zh_CN"),
-            QStringLiteral("ja")};
+    return LanguageNames::all();
 }
 
 QString Languages::nameOf(const QString& language)
 {
-    static const QMap<QString, QString> names = {
-        {QStringLiteral("en"), QStringLiteral("English")},
-        {QStringLiteral("de"), QStringLiteral("Deutsch")},
-        {QStringLiteral("zh_CN"), QStringLiteral("中文")},
-        {QStringLiteral("ja"), QStringLiteral("日本語")},
-    };
-    return names.value(language);
+    return LanguageNames::nameOf(language);
 }
 
 Languages::Languages() = default;

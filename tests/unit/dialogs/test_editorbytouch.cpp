@@ -124,7 +124,6 @@ private Q_SLOTS:
     {
         inEditor([](EditorHost& host) {
             host.tapCell(1, 0);
-            QTest::qWait(QApplication::doubleClickInterval() + 50);
             host.tapCell(1, 0);
             QTRY_VERIFY(pad() != nullptr);
             QVERIFY(touch({QStringLiteral("7"), QStringLiteral("0"), QStringLiteral("0"),

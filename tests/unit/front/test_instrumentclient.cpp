@@ -279,7 +279,8 @@ void TestInstrumentClient::nobodyThere()
     QTRY_COMPARE(gone.size(), 1);
     QVERIFY(!client.isConnected());
     // Further attempts find nobody either and are not told again.
-    QTest::qWait(3 * Backoff::FirstMs);
+    QSignalSpy due(client.findChild<Backoff*>(), &Backoff::due);
+    QTRY_VERIFY(due.size() >= 3);
     QCOMPARE(gone.size(), 1);
 }
 
@@ -323,7 +324,11 @@ void TestInstrumentClient::stopped()
     QVERIFY(answer.isThere);
     QVERIFY(!answer.reply.ok);
     QVERIFY(server.waitForGone(1));
-    QTest::qWait(2 * Backoff::FirstMs);
+    // One that connected again would have been due by the time that another while is over.
+    Backoff clock;
+    QSignalSpy due(&clock, &Backoff::due);
+    clock.wait();
+    QTRY_COMPARE(due.size(), 1);
     QCOMPARE(server.accepted(), 1);
 }
 

@@ -62,8 +62,10 @@ private slots:
     {
         m_instrument = std::make_unique<Instrument>();
         m_bBlocked = false;
-        m_poller = std::make_unique<InstrumentPoller>(m_instrument->serverPort(),
-                                                      [this] { return m_bBlocked.load(); });
+        m_poller = std::make_unique<InstrumentPoller>(m_instrument->serverPort(), [this] {
+            ++m_nLooks;
+            return m_bBlocked.load();
+        });
         connect(m_poller.get(), &InstrumentPoller::stateChanged, this,
                 [this](const InstrumentState& state) { m_states.append(state); });
         m_states.clear();
@@ -115,7 +117,8 @@ private slots:
         const int sent = m_instrument->lines.size();
         m_poller->trigger();
         m_poller->setOutput(1, true);
-        QTest::qWait(1200); // more than two rounds
+        const int looks = m_nLooks;
+        QTRY_VERIFY(m_nLooks >= looks + 3);
         QCOMPARE(m_instrument->lines.size(), sent);
         m_bBlocked = false;
         waitForRounds(1);
@@ -197,6 +200,7 @@ private:
 
     std::unique_ptr<Instrument> m_instrument;
     std::atomic<bool> m_bBlocked{false};
+    std::atomic<int> m_nLooks{0}; // at the flag
     std::unique_ptr<InstrumentPoller> m_poller;
     QVector<InstrumentState> m_states;
 };

@@ -1,14 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The multi-pulse builder developers
 // SPDX-License-Identifier: MIT
 
-#include "serversignals.h"
+#include "endsignals.h"
 
 #include <QSignalSpy>
 #include <QTest>
 
 #include <csignal>
 
-class TestServerSignals : public QObject
+class TestEndSignals : public QObject
 {
     Q_OBJECT
 
@@ -16,10 +16,10 @@ private slots:
     void signalsArrive();
 };
 
-void TestServerSignals::signalsArrive()
+void TestEndSignals::signalsArrive()
 {
-    const ServerSignals endSignals;
-    QSignalSpy spy(&endSignals, &ServerSignals::endRequested);
+    const EndSignals endSignals;
+    QSignalSpy spy(&endSignals, &EndSignals::endRequested);
     std::raise(SIGTERM);
     QCOMPARE(spy.count(), 0);
     QVERIFY(spy.wait());
@@ -27,5 +27,5 @@ void TestServerSignals::signalsArrive()
     QTRY_COMPARE(spy.count(), 2);
 }
 
-QTEST_GUILESS_MAIN(TestServerSignals)
-#include "test_serversignals.moc"
+QTEST_GUILESS_MAIN(TestEndSignals)
+#include "test_endsignals.moc"
